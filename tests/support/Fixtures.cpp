@@ -1,0 +1,72 @@
+#include "Fixtures.h"
+
+#include "core/DateText.h"
+
+#include <gtest/gtest.h>
+
+namespace quillon::test {
+
+void addGolfer(Connection &c, const QString &last, const QString &first, const QString &gender, double handicap)
+{
+    Exec(c,
+         QStringLiteral("INSERT INTO HandicapLog (LastName, FirstName, Gender, Handicap, HomeCourseName) "
+                        "VALUES (?, ?, ?, ?, ?)"),
+         {last, first, gender.isEmpty() ? QVariant() : QVariant(gender), handicap, QString()});
+}
+
+void addCourse(Connection &c, const CourseSpec &s)
+{
+    int parOut = 0, parIn = 0;
+    for (int i = 0; i < s.pars.size(); ++i)
+        (i < 9 ? parOut : parIn) += s.pars.at(i);
+    Exec(c,
+         QStringLiteral("INSERT INTO CourseLog (CourseName, Tees, OverallRating, FrontRating, BackRating, "
+                        "OverallSlope, FrontSlope, BackSlope, YardsIn, YardsOut, TotalYards, ParIn, ParOut, "
+                        "TotalPar) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"),
+         {s.name, s.tees, s.overallRating, s.frontRating, s.backRating, s.overallSlope, s.frontSlope,
+          s.backSlope, 3200, 3150, 6350, parIn, parOut, parIn + parOut});
+    for (int i = 0; i < s.pars.size(); ++i)
+        Exec(c,
+             QStringLiteral("INSERT INTO CourseDetails (CourseName, Tees, Hole, PAR, Handicap, Yards) "
+                            "VALUES (?, ?, ?, ?, ?, ?)"),
+             {s.name, s.tees, i + 1, s.pars.at(i), i + 1, 350});
+}
+
+qint64 addRound(Connection &c, const RoundSpec &r)
+{
+    Exec(c,
+         QStringLiteral("INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
+                        "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, LostBalls, "
+                        "Bunkers, SandSaves, AttemptedSaves, CombinedIndex) "
+                        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, -1, -1, -1, -1, -1, 1)"),
+         {r.last, r.first, r.course, r.tees, IsoDate(r.date), r.holes, r.score, r.adjusted, r.rating, r.slope,
+          r.type.isEmpty() ? QVariant() : QVariant(r.type), r.differential, r.used, r.details ? 1 : 0});
+    return LastInsertId(c);
+}
+
+void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole, const QVector<int> &scores,
+                   const QVector<int> &pars)
+{
+    for (int i = 0; i < scores.size(); ++i)
+        Exec(c,
+             QStringLiteral("INSERT INTO ScoreDetails (LastName, FirstName, CourseName, Tees, Date, ScoreIndex, "
+                            "Hole, Score, Putts, PAR, Fairway, GreenInRegulation) "
+                            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, 2, ?, -1, 0)"),
+             {r.last, r.first, r.course, r.tees, IsoDate(r.date), scoreIndex, firstHole + i, scores.at(i),
+              pars.at(i)});
+}
+
+QStringList columnValues(Connection &c, const QString &sql, const Params &params)
+{
+    QStringList out;
+    Recordset rs = Query(c, sql, params);
+    for (const QSqlRecord &row : rs.rows()) {
+        QStringList cells;
+        for (int i = 0; i < row.count(); ++i)
+            cells << row.value(i).toString();
+        out << cells.join(QLatin1Char('|'));
+    }
+    return out;
+}
+
+} // namespace quillon::test
