@@ -19,6 +19,11 @@ Platform &platform()
     return *p;
 }
 
+bool platformInstalled()
+{
+    return installed() != nullptr;
+}
+
 void installPlatform(std::unique_ptr<Platform> p)
 {
     installed() = std::move(p);

@@ -50,6 +50,7 @@ private:
 
 // The installed platform.  The program installs the desktop one at start; tests install a scripted one.
 Platform &platform();
+bool platformInstalled();
 void installPlatform(std::unique_ptr<Platform> p);
 // Full path of a file in the application directory.
 QString appFile(const QString &fileName);

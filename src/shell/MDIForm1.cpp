@@ -1,0 +1,376 @@
+#include "MDIForm1.h"
+
+#include "ToolbarIcons.h"
+#include "platform/Platform.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QScreen>
+#include <QStatusBar>
+#include <QToolBar>
+#include <iterator>
+#include <vector>
+
+namespace quillon {
+
+namespace {
+
+enum class Kind { Command, Check, Separator, Popup };
+
+struct MenuEntry {
+    int level;
+    const char *name;
+    const char *caption;
+    Kind kind = Kind::Command;
+};
+
+// The menu tree in the order it shows.  An entry followed by deeper entries is a sub-menu;
+// the popup of the score log stands at the top level but not on the bar.
+const MenuEntry kMenuTree[] = {
+    {1, "mnuFile", "&File"},
+    {2, "mnuFileNew", "&New"},
+    {3, "mnuNewCourse", "&Course ..."},
+    {3, "mnuNewGolfer", "&Golfer ..."},
+    {3, "mnuNewScore", "&Score ..."},
+    {2, "mnuFileSep1", "", Kind::Separator},
+    {2, "mnuFilePrint", "&Print"},
+    {3, "mnuPrintScorecard", "&Scorecard ..."},
+    {3, "mnuPrintScoreLog", "Score &Log"},
+    {3, "mnuPrintScoreDetails", "Score &Details"},
+    {3, "mnuPrintScoringRecord", "Scoring &Record"},
+    {3, "mnuPrintStatistics", "Sta&tistics"},
+    {3, "mnuPrintGraph", "&Graph"},
+    {3, "mnuPrintUltimateScorecard", "&Ultimate Scorecard"},
+    {2, "mnuFilePrintSetup", "Print &Setup ..."},
+    {2, "mnuFileSep2", "", Kind::Separator},
+    {2, "mnuCourseExit", "E&xit"},
+    {1, "mnuEdit", "&Edit"},
+    {2, "mnuEditCourse", "&Course ..."},
+    {2, "mnuEditScore", "&Score ..."},
+    {1, "mnuView", "&View"},
+    {2, "mnuViewScoreLog", "&Score Log", Kind::Check},
+    {2, "mnuViewScoringRecord", "Scoring &Record", Kind::Check},
+    {2, "mnuViewGolferStatistics", "Statis&tics", Kind::Check},
+    {2, "mnuViewGraphs", "&Graphs", Kind::Check},
+    {2, "mnuViewUltimateScorecard", "&Ultimate Scorecard", Kind::Check},
+    {2, "mnuViewCourseInfo", "&Course Information", Kind::Check},
+    {2, "mnuViewSep1", "", Kind::Separator},
+    {2, "mnuViewAll", "View &All Scores", Kind::Check},
+    {2, "mnuViewUsed", "Vie&w Used Scores", Kind::Check},
+    {2, "mnuViewCurrent", "View Current &Year Scores", Kind::Check},
+    {1, "mnuTools", "&Tools"},
+    {2, "mnuToolsCourseHdcpCalculator", "&Course Handicap Calculator"},
+    {2, "mnuToolsRSCalculator", "&Rating/Slope Calculator"},
+    {2, "mnuToolsDatabase", "D&atabase"},
+    {3, "mnuDatabaseBackup", "&Backup"},
+    {3, "mnuDatabaseRestore", "&Restore"},
+    {2, "mnuToolsDelete", "&Delete"},
+    {3, "mnuDeleteCourse", "&Course ..."},
+    {3, "mnuDeleteGolfer", "&Golfer ..."},
+    {3, "mnuDeleteScore", "&Score"},
+    {1, "mnuHelp", "&Help"},
+    {2, "mnuHelpContents", "&Contents"},
+    {2, "mnuHelpSep", "", Kind::Separator},
+    {2, "mnuHelpAbout", "&About"},
+    {1, "mnuScoreLog", "Score Log Menu", Kind::Popup},
+    {2, "mnuSLViewScoreDetails", "View Score Details"},
+    {2, "mnuSLViewScoringRecord", "View Scoring Record"},
+    {2, "mnuSLViewCourseInfo", "View Course Information"},
+    {2, "mnuSLViewUltimateScorecard", "View Ultimate Scorecard"},
+    {2, "mnSLSep1", "", Kind::Separator},
+    {2, "mnuSLPrintScorecard", "Print Scorecard ..."},
+    {2, "mnuSLPrintScoreLog", "Print Score Log"},
+    {2, "mnuSLPrintScoreDetails", "Print Score Details"},
+    {2, "mnuSLPrintScoringRecord", "Print Scoring Record"},
+    {2, "mnuSLSep2", "", Kind::Separator},
+    {2, "mnuSLDeleteScore", "Delete Score"},
+};
+
+struct ToolButton {
+    const char *key;
+    const char *caption;
+    const char *item;
+};
+
+const ToolButton kToolbar[] = {
+    {"NewCourse", "New Course", "mnuNewCourse"},
+    {"NewGolfer", "New Golfer", "mnuNewGolfer"},
+    {"NewScore", "New Score", "mnuNewScore"},
+    {"EditCourse", "Edit Course", "mnuEditCourse"},
+    {"EditScore", "Edit Score", "mnuEditScore"},
+    {"ScoreLog", "Score Log", "mnuViewScoreLog"},
+    {"CourseInfo", "Course Info", "mnuViewCourseInfo"},
+    {"GolferStats", "Statistics", "mnuViewGolferStatistics"},
+    {"Graphs", "Graphs", "mnuViewGraphs"},
+    {"Help", "Help", "mnuHelpContents"},
+};
+
+struct Panel {
+    const char *key;
+    const char *text;
+    const char *toolTip;
+    int stretch;
+};
+
+const Panel kPanels[] = {
+    {"GolferName", "Golfer:", "", 1},
+    {"ScoreDetails", "Score Details", "Score Details", 0},
+    {"Handicap", "Handicap:  (not calculated)", "", 0},
+};
+
+QPointer<MDIForm1> &theInstance()
+{
+    static QPointer<MDIForm1> frame;
+    return frame;
+}
+
+QString latin(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+} // namespace
+
+MDIForm1 &MDIForm1::instance()
+{
+    QPointer<MDIForm1> &frame = theInstance();
+    if (!frame) {
+        // A top-level window must be gone before the application object is.
+        static bool routineAdded = false;
+        if (!routineAdded) {
+            qAddPostRoutine(&MDIForm1::unload);
+            routineAdded = true;
+        }
+        frame = new MDIForm1;
+    }
+    return *frame;
+}
+
+MDIForm1 *MDIForm1::existing()
+{
+    return theInstance().data();
+}
+
+void MDIForm1::unload()
+{
+    delete theInstance().data();
+}
+
+MDIForm1::MDIForm1()
+{
+    setObjectName(QStringLiteral("MDIForm1"));
+    setWindowTitle(appTitle());
+    // The frame can be moved, minimized and closed, never maximized.
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+
+    m_mdiArea = new QMdiArea(this);
+    m_mdiArea->setObjectName(QStringLiteral("mdiArea"));
+    setCentralWidget(m_mdiArea);
+
+    buildMenus();
+    buildToolbar();
+    buildStatusBar();
+    placeOnScreen();
+
+    LogGlobals &g = basLogGlobals();
+    g.handicapDisplay = this;
+    g.genderQuestion = &m_genderQuestion;
+    if (platformInstalled())
+        platform().setDialogParent(this);
+}
+
+MDIForm1::~MDIForm1()
+{
+    LogGlobals &g = basLogGlobals();
+    if (g.handicapDisplay == this)
+        g.handicapDisplay = nullptr;
+    if (g.genderQuestion == &m_genderQuestion)
+        g.genderQuestion = nullptr;
+    if (platformInstalled() && platform().dialogParent() == this)
+        platform().setDialogParent(nullptr);
+}
+
+void MDIForm1::buildMenus()
+{
+    // open[i] is the menu that takes the entries of level i + 2.
+    std::vector<QMenu *> open;
+    const auto count = std::size(kMenuTree);
+    for (std::size_t i = 0; i < count; ++i) {
+        const MenuEntry &entry = kMenuTree[i];
+        const QString name = latin(entry.name);
+        const bool hasChildren = i + 1 < count && kMenuTree[i + 1].level > entry.level;
+        QAction *action = nullptr;
+        if (entry.level == 1 || hasChildren) {
+            // A sub-menu belongs to the menu it opens from, so that the chain of owners is the
+            // path the user walks to reach an item.
+            QWidget *owner = entry.level > 1 ? static_cast<QWidget *>(open[entry.level - 2]) : this;
+            auto *menu = new QMenu(latin(entry.caption), owner);
+            menu->setObjectName(name);
+            if (entry.level > 1)
+                open[entry.level - 2]->addMenu(menu);
+            else if (entry.kind != Kind::Popup)
+                menuBar()->addMenu(menu);
+            open.resize(entry.level);
+            open[entry.level - 1] = menu;
+            m_menus.insert(name, menu);
+            action = menu->menuAction();
+        } else if (entry.kind == Kind::Separator) {
+            action = open[entry.level - 2]->addSeparator();
+        } else {
+            action = open[entry.level - 2]->addAction(latin(entry.caption));
+            action->setCheckable(entry.kind == Kind::Check);
+        }
+        action->setObjectName(name);
+        m_items.insert(name, action);
+    }
+
+    connect(menuItem(QStringLiteral("mnuCourseExit")), &QAction::triggered, this, &QWidget::close);
+}
+
+void MDIForm1::buildToolbar()
+{
+    m_toolbar = new QToolBar(this);
+    m_toolbar->setObjectName(QStringLiteral("Toolbar1"));
+    m_toolbar->setWindowTitle(QStringLiteral("Toolbar"));
+    m_toolbar->setMovable(false);
+    m_toolbar->setFloatable(false);
+    m_toolbar->setIconSize(QSize(ToolbarIcons::kSize, ToolbarIcons::kSize));
+    m_toolbar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    addToolBar(Qt::TopToolBarArea, m_toolbar);
+
+    for (const ToolButton &b : kToolbar) {
+        const QString key = latin(b.key);
+        QAction *button = m_toolbar->addAction(ToolbarIcons::icon(key), latin(b.caption));
+        button->setObjectName(key);
+        button->setToolTip(latin(b.caption));
+        m_buttons.insert(key, button);
+        m_buttonItems.insert(latin(b.caption), latin(b.item));
+        connect(button, &QAction::triggered, this, [this, button] { Toolbar1_ButtonClick(button); });
+    }
+}
+
+void MDIForm1::buildStatusBar()
+{
+    QStatusBar *bar = statusBar();
+    bar->setObjectName(QStringLiteral("StatusBar1"));
+    bar->setSizeGripEnabled(false); // the frame is not sized by the user
+    for (const Panel &p : kPanels) {
+        auto *label = new QLabel(latin(p.text), bar);
+        label->setObjectName(latin(p.key));
+        label->setToolTip(latin(p.toolTip));
+        label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+        label->setMargin(2);
+        label->installEventFilter(this);
+        bar->addWidget(label, p.stretch);
+        m_panels.insert(label->objectName(), label);
+    }
+}
+
+void MDIForm1::placeOnScreen()
+{
+    // The frame has one size: it can be moved and minimized but neither sized nor maximized,
+    // and a fixed size is what every window manager honours (some ignore the missing maximize hint).
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    const QSize wanted(1000, 700);
+    if (!screen) {
+        setFixedSize(wanted);
+        return;
+    }
+    const QRect available = screen->availableGeometry();
+    QRect area(QPoint(), wanted.boundedTo(available.size()));
+    area.moveCenter(available.center());
+    setFixedSize(area.size());
+    move(area.topLeft());
+}
+
+QAction *MDIForm1::menuItem(const QString &name) const
+{
+    return m_items.value(name);
+}
+
+QMenu *MDIForm1::menu(const QString &name) const
+{
+    return m_menus.value(name);
+}
+
+QAction *MDIForm1::toolButton(const QString &key) const
+{
+    return m_buttons.value(key);
+}
+
+QLabel *MDIForm1::panel(const QString &key) const
+{
+    return m_panels.value(key);
+}
+
+void MDIForm1::Toolbar1_ButtonClick(const QAction *button)
+{
+    if (QAction *item = menuItem(m_buttonItems.value(button->text())))
+        item->trigger();
+}
+
+void MDIForm1::DatabaseMissing()
+{
+    platform().messageBox(QStringLiteral("Unable to locate the Quillon database.  You must restore your backup "
+                                         "database or re-install Quillon for Golf."),
+                          MsgIcon::Critical, QStringLiteral("Quillon for Golf -- Missing Component"));
+
+    for (const char *name : {"mnuFileNew", "mnuFilePrint", "mnuEdit", "mnuView", "mnuToolsRSCalculator",
+                             "mnuDatabaseBackup", "mnuToolsDelete"})
+        menuItem(latin(name))->setEnabled(false);
+    for (const char *name : {"mnuToolsDatabase", "mnuDatabaseRestore"})
+        menuItem(latin(name))->setEnabled(true);
+
+    for (const char *key : {"NewCourse", "NewGolfer", "NewScore", "EditCourse", "EditScore", "GolferStats",
+                            "Graphs", "CourseInfo", "ScoreLog"})
+        toolButton(latin(key))->setEnabled(false);
+}
+
+void MDIForm1::ApplyCommandMode()
+{
+    if (basLogGlobals().gCommandString == QLatin1String("-h"))
+        return;
+    for (const char *name :
+         {"mnuToolsCourseHdcpCalculator", "mnuViewUsed", "mnuViewScoringRecord", "mnuPrintScoringRecord"})
+        menuItem(latin(name))->setVisible(false);
+    panel(QStringLiteral("Handicap"))->setVisible(false);
+}
+
+void MDIForm1::setHandicapPanel(const QString &text)
+{
+    panel(QStringLiteral("Handicap"))->setText(text);
+}
+
+void MDIForm1::setCourseHdcpCalculatorEnabled(bool enabled)
+{
+    menuItem(QStringLiteral("mnuToolsCourseHdcpCalculator"))->setEnabled(enabled);
+}
+
+void MDIForm1::closeEvent(QCloseEvent *event)
+{
+    // The views go with the frame, before what they read from is released.
+    m_mdiArea->closeAllSubWindows();
+    basLogGlobals().releaseAll();
+    event->accept();
+}
+
+bool MDIForm1::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const QString key = watched->objectName();
+        if (m_panels.value(key) == watched)
+            emit panelClicked(key);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace quillon

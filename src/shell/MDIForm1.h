@@ -1,0 +1,85 @@
+#pragma once
+
+#include "golfer/GenderDialogQuestion.h"
+#include "shell/basLogGlobals.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <QString>
+
+class QAction;
+class QLabel;
+class QMdiArea;
+class QMenu;
+class QToolBar;
+
+namespace quillon {
+
+// The frame: the menu tree, the toolbar and the status bar are the program's whole
+// command surface, and every view is a maximized child of its MDI area.
+// The commands themselves are wired by the forms they open; the frame only knows Exit.
+class MDIForm1 : public QMainWindow, public HandicapDisplay {
+    Q_OBJECT
+public:
+    // The one frame, created on first use.
+    static MDIForm1 &instance();
+    // The frame if it has been created, else null.
+    static MDIForm1 *existing();
+    // Destroy the frame (a restart of the program's state, and between tests).
+    static void unload();
+
+    ~MDIForm1() override;
+
+    // A menu item by name (mnuNewScore, mnuFileNew, mnuFileSep1, ...); sub-menus answer with
+    // their menu action, whose Enabled and Visible govern the whole sub-menu.  Null if unknown.
+    QAction *menuItem(const QString &name) const;
+    // A sub-menu (mnuFile, mnuToolsDatabase, ...) or the popup mnuScoreLog; null if unknown.
+    QMenu *menu(const QString &name) const;
+    // A toolbar button by key (NewCourse, ..., Help); null if unknown.
+    QAction *toolButton(const QString &key) const;
+    // A status-bar panel by key (GolferName, ScoreDetails, Handicap); null if unknown.
+    QLabel *panel(const QString &key) const;
+    QMdiArea *mdiArea() const { return m_mdiArea; }
+
+    // No database to work on: say so, and leave only printer set-up, Exit, the course
+    // handicap calculator, Restore and Help usable.
+    void DatabaseMissing();
+    // The handicap-free layout when the command string is not "-h".
+    void ApplyCommandMode();
+
+    // HandicapDisplay
+    void setHandicapPanel(const QString &text) override;
+    void setCourseHdcpCalculatorEnabled(bool enabled) override;
+
+signals:
+    // A click on a status-bar panel, by key.
+    void panelClicked(const QString &key);
+
+protected:
+    // The unload handler: releases the golfer's rows and the connection, asks nothing.
+    void closeEvent(QCloseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    // The toolbar is part of the frame: no menu to hide it.
+    QMenu *createPopupMenu() override { return nullptr; }
+
+private:
+    MDIForm1();
+
+    void buildMenus();
+    void buildToolbar();
+    void buildStatusBar();
+    void placeOnScreen();
+    // The toolbar's click handler: the button's caption names the menu item it runs.
+    void Toolbar1_ButtonClick(const QAction *button);
+
+    QMdiArea *m_mdiArea = nullptr;
+    QToolBar *m_toolbar = nullptr;
+    QHash<QString, QAction *> m_items;
+    QHash<QString, QMenu *> m_menus;
+    QHash<QString, QAction *> m_buttons;
+    QHash<QString, QString> m_buttonItems; // caption -> menu item name
+    QHash<QString, QLabel *> m_panels;
+    GenderDialogQuestion m_genderQuestion;
+};
+
+} // namespace quillon

@@ -1,0 +1,329 @@
+#include "Fixtures.h"
+#include "TestApp.h"
+#include "shell/MDIForm1.h"
+#include "shell/SingleInstance.h"
+#include "shell/Startup.h"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenu>
+#include <QProcess>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QThread>
+
+using namespace quillon;
+using namespace quillon::test;
+
+namespace {
+
+const QString kMissing = QStringLiteral(
+    "Unable to locate the Quillon database.  You must restore your backup database or re-install Quillon for Golf.");
+
+// Names, sizes, times and contents of every file in a directory.
+QStringList snapshot(const QString &dir)
+{
+    QStringList out;
+    for (const QFileInfo &fi : QDir(dir).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot,
+                                                        QDir::Name)) {
+        QFile f(fi.filePath());
+        f.open(QIODevice::ReadOnly);
+        out << QStringLiteral("%1 %2 %3 %4")
+                   .arg(fi.fileName())
+                   .arg(fi.size())
+                   .arg(fi.lastModified().toMSecsSinceEpoch())
+                   .arg(QString::fromLatin1(QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha1).toHex()));
+    }
+    return out;
+}
+
+bool waitFor(const std::function<bool()> &condition, int ms = 15000)
+{
+    QElapsedTimer t;
+    t.start();
+    while (!condition()) {
+        if (t.elapsed() > ms)
+            return false;
+        QThread::msleep(20);
+    }
+    return true;
+}
+
+// The program itself, copied into the test's application directory and started there.
+class RealInstance {
+public:
+    explicit RealInstance(const QString &dir, const QStringList &args = {})
+    {
+        const QString exe = QDir(dir).filePath(QStringLiteral("quillon"));
+        QFile::remove(exe);
+        EXPECT_TRUE(QFile::copy(QStringLiteral(QUILLON_APP_BINARY), exe));
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        m_process.setProcessEnvironment(env);
+        m_process.setProgram(exe);
+        m_process.setArguments(args);
+        m_process.start();
+        EXPECT_TRUE(m_process.waitForStarted());
+    }
+    ~RealInstance()
+    {
+        if (m_process.state() != QProcess::NotRunning) {
+            m_process.kill();
+            m_process.waitForFinished();
+        }
+    }
+    bool running() const { return m_process.state() == QProcess::Running; }
+    void crash()
+    {
+        m_process.kill(); // SIGKILL: no clean-up of any kind
+        m_process.waitForFinished();
+    }
+
+private:
+    QProcess m_process;
+};
+
+class Startup : public ::testing::Test {
+protected:
+    void TearDown() override { MDIForm1::unload(); }
+
+    StartupOutcome start(const QString &commandLine = QString())
+    {
+        m_instance = std::make_unique<SingleInstance>(app.file(SingleInstance::defaultLockName()));
+        return MDIForm1_Load(MDIForm1::instance(), *m_instance, commandLine);
+    }
+
+    // Leaf commands a user can reach: enabled, and every menu above them enabled too.
+    QStringList reachableCommands()
+    {
+        QStringList out;
+        MDIForm1 &f = MDIForm1::instance();
+        for (QAction *a : f.findChildren<QAction *>()) {
+            if (a->objectName().isEmpty() || a->isSeparator() || a->menu() || !a->isEnabled())
+                continue;
+            bool reachable = false;
+            for (QObject *p = a->parent(); p; p = p->parent()) {
+                auto *m = qobject_cast<QMenu *>(p);
+                if (!m)
+                    continue;
+                if (!m->menuAction()->isEnabled() || m->objectName() == QLatin1String("mnuScoreLog")) {
+                    reachable = false;
+                    break;
+                }
+                reachable = true;
+            }
+            if (reachable)
+                out << a->objectName();
+        }
+        out.sort();
+        return out;
+    }
+
+    TestApp app{false};
+    std::unique_ptr<SingleInstance> m_instance;
+};
+
+} // namespace
+
+TEST_F(Startup, FreshInstallTakesTheUpdateFileOverAndStandsReadyForAGolfer)
+{
+    app.layDatabase(QStringLiteral("Update.qdl"));
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Update.qdl"))));
+    EXPECT_TRUE(QFile::exists(app.file(QStringLiteral("Quillon.qdl"))));
+    EXPECT_TRUE(app.platform().messages().isEmpty());
+    ASSERT_NE(basLogGlobals().gConnection, nullptr);
+    EXPECT_EQ(basLogGlobals().gCourseCount, 0);
+    EXPECT_TRUE(basLogGlobals().gLastName.isEmpty());
+    EXPECT_TRUE(basLogGlobals().gFirstName.isEmpty());
+    EXPECT_TRUE(MDIForm1::instance().isVisible());
+    EXPECT_EQ(MDIForm1::instance().windowTitle(), QStringLiteral("Quillon for Golf"));
+    EXPECT_FALSE(MDIForm1::instance().windowFlags() & Qt::WindowMaximizeButtonHint);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass is off";
+}
+
+TEST_F(Startup, NoDatabaseShowsTheMissingMessageAndLocksTheFrame)
+{
+    EXPECT_EQ(start(), StartupOutcome::Locked);
+    const auto shown = app.platform().takeMessages();
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_EQ(shown[0].text, kMissing);
+    EXPECT_EQ(shown[0].title, QStringLiteral("Quillon for Golf -- Missing Component"));
+    EXPECT_EQ(shown[0].icon, MsgIcon::Critical);
+    EXPECT_EQ(reachableCommands(),
+              (QStringList{"mnuCourseExit", "mnuDatabaseRestore", "mnuFilePrintSetup", "mnuHelpAbout",
+                           "mnuHelpContents", "mnuToolsCourseHdcpCalculator"}));
+    MDIForm1 &f = MDIForm1::instance();
+    for (const char *key : {"NewCourse", "NewGolfer", "NewScore", "EditCourse", "EditScore", "GolferStats",
+                            "Graphs", "CourseInfo", "ScoreLog"})
+        EXPECT_FALSE(f.toolButton(QString::fromLatin1(key))->isEnabled()) << key;
+    EXPECT_TRUE(f.toolButton(QStringLiteral("Help"))->isEnabled());
+    EXPECT_EQ(basLogGlobals().gConnection, nullptr);
+    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Quillon.qdl")))) << "no database is made up";
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Startup, CorruptDatabaseEndsTheProgramAndIsLeftAsItWas)
+{
+    QFile f(app.file(QStringLiteral("Quillon.qdl")));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(QByteArray("garbage, not a database\n").repeated(500));
+    f.close();
+    const QStringList before = snapshot(app.dir());
+    EXPECT_EQ(start(), StartupOutcome::Exit);
+    const auto shown = app.platform().takeMessages();
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_EQ(shown[0].text, QStringLiteral("Unable to open the Quillon database."));
+    EXPECT_EQ(shown[0].icon, MsgIcon::Critical);
+    EXPECT_EQ(shown[0].title, QStringLiteral("Quillon for Golf"));
+    QStringList after = snapshot(app.dir());
+    after.removeIf([](const QString &s) { return s.startsWith(QStringLiteral("Quillon.lock")); });
+    EXPECT_EQ(after, before);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Startup, SqliteFileWithoutOurTablesEndsTheProgram)
+{
+    {
+        QSqlDatabase other = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("notours"));
+        other.setDatabaseName(app.file(QStringLiteral("Quillon.qdl")));
+        ASSERT_TRUE(other.open());
+        QSqlQuery(other).exec(QStringLiteral("CREATE TABLE Photos (Path TEXT)"));
+        other.close();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("notours"));
+    EXPECT_EQ(start(), StartupOutcome::Exit);
+    expectMessages(app.platform(), {QStringLiteral("Unable to open the Quillon database.")});
+    EXPECT_EQ(basLogGlobals().gConnection, nullptr);
+}
+
+TEST_F(Startup, UnreadableDatabaseEndsTheProgram)
+{
+    ASSERT_TRUE(QDir(app.dir()).mkdir(QStringLiteral("Quillon.qdl"))); // there, but no file to read
+    EXPECT_EQ(start(), StartupOutcome::Exit);
+    expectMessages(app.platform(), {QStringLiteral("Unable to open the Quillon database.")});
+}
+
+TEST_F(Startup, CommandLineArgumentsChangeNothing)
+{
+    for (const QString &args : {QString(), QStringLiteral("-h"), QStringLiteral("-x"), QStringLiteral("-x -y z")}) {
+        app.layDatabase();
+        EXPECT_EQ(start(args), StartupOutcome::ChoosingGolfer) << args.toStdString();
+        EXPECT_EQ(basLogGlobals().gCommandString, QStringLiteral("-h"));
+        MDIForm1 &f = MDIForm1::instance();
+        for (const char *item : {"mnuToolsCourseHdcpCalculator", "mnuViewUsed", "mnuViewScoringRecord",
+                                 "mnuPrintScoringRecord"})
+            EXPECT_TRUE(f.menuItem(QString::fromLatin1(item))->isVisible()) << item;
+        EXPECT_FALSE(f.panel(QStringLiteral("Handicap"))->isHidden());
+        MDIForm1::unload();
+        m_instance.reset();
+    }
+}
+
+TEST_F(Startup, CountsDistinctCourseNames)
+{
+    app.layDatabase();
+    {
+        auto c = OpenDatabase(app.file(QStringLiteral("Quillon.qdl")));
+        ASSERT_NE(c, nullptr);
+        for (const char *tees : {"Blue", "White", "Red"})
+            addCourse(*c, CourseSpec{QStringLiteral("Pebble Creek"), QString::fromLatin1(tees)});
+        addCourse(*c, CourseSpec{QStringLiteral("O'Malley's Links"), QStringLiteral("White")});
+    }
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    EXPECT_EQ(basLogGlobals().gCourseCount, 2);
+}
+
+TEST_F(Startup, ShutDownWritesNothing)
+{
+    app.layDatabase();
+    const QStringList before = snapshot(app.dir());
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    MDIForm1::instance().close();
+    EXPECT_EQ(basLogGlobals().gConnection, nullptr);
+    EXPECT_EQ(basLogGlobals().gScoreLog, nullptr);
+    EXPECT_EQ(basLogGlobals().gHandicapLog, nullptr);
+    QStringList after = snapshot(app.dir());
+    after.removeIf([](const QString &s) { return s.startsWith(QStringLiteral("Quillon.lock")); });
+    EXPECT_EQ(after, before);
+}
+
+TEST_F(Startup, RunningTheSequenceAgainOverTheChangedWindowIsHarmless)
+{
+    app.layDatabase();
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    app.setGolfer(QStringLiteral("Palmer"), QStringLiteral("Arnold"));
+    const int actions = MDIForm1::instance().findChildren<QAction *>().size();
+    // A restore runs the load sequence again in the same process, with the lock already held.
+    EXPECT_EQ(MDIForm1_Load(MDIForm1::instance(), *m_instance, QString()), StartupOutcome::ChoosingGolfer);
+    EXPECT_TRUE(basLogGlobals().gLastName.isEmpty());
+    EXPECT_TRUE(basLogGlobals().gFirstName.isEmpty());
+    EXPECT_FALSE(MDIForm1::instance().windowFlags() & Qt::WindowMaximizeButtonHint);
+    EXPECT_EQ(MDIForm1::instance().findChildren<QAction *>().size(), actions);
+    EXPECT_TRUE(app.platform().messages().isEmpty());
+}
+
+TEST_F(Startup, FaultDuringTheSequenceIsShownAndTheFrameStays)
+{
+    app.layDatabase();
+    {
+        QSqlDatabase c = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("mangle"));
+        c.setDatabaseName(app.file(QStringLiteral("Quillon.qdl")));
+        ASSERT_TRUE(c.open());
+        QSqlQuery q(c);
+        ASSERT_TRUE(q.exec(QStringLiteral("DROP TABLE CourseLog")));
+        ASSERT_TRUE(q.exec(QStringLiteral("CREATE TABLE CourseLog (Something TEXT)")));
+        c.close();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("mangle"));
+    EXPECT_EQ(start(), StartupOutcome::Interrupted);
+    const auto shown = app.platform().takeMessages();
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_TRUE(shown[0].text.startsWith(QStringLiteral("Error 1: "))) << shown[0].text.toStdString();
+    EXPECT_TRUE(shown[0].text.contains(QStringLiteral("CourseName")));
+    EXPECT_EQ(shown[0].title, QStringLiteral("Quillon for Golf"));
+    EXPECT_EQ(shown[0].icon, MsgIcon::Critical);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Startup, SecondInstanceIsRefusedAndTouchesNoFile)
+{
+    app.layDatabase(QStringLiteral("Update.qdl"));
+    RealInstance first(app.dir(), {QStringLiteral("-x")});
+    // The first run holds its lock before it takes the update file over.
+    ASSERT_TRUE(waitFor([&] { return !QFile::exists(app.file(QStringLiteral("Update.qdl"))); }));
+    QThread::msleep(300);
+    ASSERT_TRUE(first.running());
+    const QStringList before = snapshot(app.dir());
+
+    EXPECT_EQ(start(), StartupOutcome::Exit);
+    const auto shown = app.platform().takeMessages();
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_EQ(shown[0].text, QStringLiteral("Quillon for Golf is already running."));
+    EXPECT_EQ(shown[0].title, QStringLiteral("Quillon for Golf"));
+    EXPECT_EQ(shown[0].icon, MsgIcon::Information);
+    EXPECT_EQ(snapshot(app.dir()), before);
+    EXPECT_EQ(basLogGlobals().gConnection, nullptr);
+    EXPECT_FALSE(MDIForm1::instance().isVisible());
+    EXPECT_TRUE(first.running());
+}
+
+TEST_F(Startup, LockOfACrashedRunIsTakenOver)
+{
+    app.layDatabase(QStringLiteral("Update.qdl"));
+    RealInstance first(app.dir());
+    ASSERT_TRUE(waitFor([&] { return !QFile::exists(app.file(QStringLiteral("Update.qdl"))); }));
+    QThread::msleep(300);
+    first.crash();
+    ASSERT_TRUE(QFile::exists(app.file(SingleInstance::defaultLockName()))) << "the crash leaves its lock file";
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    EXPECT_TRUE(app.platform().messages().isEmpty());
+    // And now this run is the one that refuses others.
+    SingleInstance other(app.file(SingleInstance::defaultLockName()));
+    EXPECT_TRUE(other.previousInstance());
+}
