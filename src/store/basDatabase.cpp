@@ -183,24 +183,27 @@ QuillonError LastDatabaseError()
 
 Transaction::Transaction(Connection &connection) : m_connection(connection)
 {
-    Exec(m_connection, QStringLiteral("BEGIN IMMEDIATE"));
+    static int counter = 0;
+    m_name = QStringLiteral("unit%1").arg(++counter);
+    Exec(m_connection, QStringLiteral("SAVEPOINT ") + m_name);
     m_open = true;
 }
 
 Transaction::~Transaction()
 {
-    if (m_open) {
-        try {
-            Exec(m_connection, QStringLiteral("ROLLBACK"));
-        } catch (const QuillonError &) {
-            // Nothing more can be done from a destructor; the engine rolls back on close.
-        }
+    if (!m_open)
+        return;
+    try {
+        Exec(m_connection, QStringLiteral("ROLLBACK TO ") + m_name);
+        Exec(m_connection, QStringLiteral("RELEASE ") + m_name);
+    } catch (const QuillonError &) {
+        // The engine may have ended the transaction itself (a full disk does); nothing is left to undo.
     }
 }
 
 void Transaction::commit()
 {
-    Exec(m_connection, QStringLiteral("COMMIT"));
+    Exec(m_connection, QStringLiteral("RELEASE ") + m_name);
     m_open = false;
 }
 

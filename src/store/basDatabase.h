@@ -66,7 +66,8 @@ QVariant Scalar(Connection &connection, const QString &sql, const Params &params
 // ScoreIndex and other auto-numbers given by the last insert.
 qint64 LastInsertId(Connection &connection);
 
-// One unit of work: committed by commit(), rolled back if the scope ends before.
+// One unit of work: kept by commit(), undone if the scope ends before.  Units nest:
+// one opened inside another is undone alone, and kept only when the outer one is.
 class Transaction {
 public:
     explicit Transaction(Connection &connection);
@@ -77,6 +78,7 @@ public:
 
 private:
     Connection &m_connection;
+    QString m_name;
     bool m_open = false;
 };
 

@@ -188,6 +188,27 @@ TEST(Database, TransactionNotCommittedLeavesNothing)
     EXPECT_EQ(columnValues(app.db(), QStringLiteral("SELECT LastName FROM HandicapLog")), QStringList{"Kept"});
 }
 
+TEST(Database, InnerUnitIsUndoneAloneAndKeptWithTheOuterOne)
+{
+    TestApp app;
+    {
+        Transaction outer(app.db());
+        addGolfer(app.db(), QStringLiteral("Outer"), QStringLiteral("A"));
+        {
+            Transaction inner(app.db());
+            addGolfer(app.db(), QStringLiteral("Inner"), QStringLiteral("B"));
+        }
+        {
+            Transaction inner(app.db());
+            addGolfer(app.db(), QStringLiteral("Inner"), QStringLiteral("C"));
+            inner.commit();
+        }
+        outer.commit();
+    }
+    EXPECT_EQ(columnValues(app.db(), QStringLiteral("SELECT LastName || FirstName FROM HandicapLog ORDER BY 1")),
+              (QStringList{"InnerC", "OuterA"}));
+}
+
 TEST(Database, CommittedDataLivesInTheFileItself)
 {
     TestApp app;
