@@ -1,7 +1,8 @@
 #pragma once
 
 #include "Fixtures.h"
-#include "HandicapTestDoubles.h"
+#include "EngineDoubles.h"
+#include "TestPrinting.h"
 #include "TestApp.h"
 
 #include <gtest/gtest.h>

@@ -233,8 +233,7 @@ TEST_F(HandicapComputation, NullGenderIsAskedOnceWhenFiveScoresAreReached)
     add(round(QDate(2026, 4, 9), 45.0));
     ComputeHandicap();
     ASSERT_EQ(gender.asked.size(), 1);
-    EXPECT_EQ(gender.asked[0].first, first);
-    EXPECT_EQ(gender.asked[0].last, last);
+    EXPECT_EQ(gender.asked[0], first + QLatin1Char(' ') + last);
     EXPECT_EQ(storedGender().toString(), QStringLiteral("F"));
     expectHandicap(38.0, QStringLiteral("Handicap: 38.0")); // a woman's cap
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "FakeGenderQuestion.h"
-#include "FakeHandicapDisplay.h"
+#include "EngineDoubles.h"
 #include "Fixtures.h"
 #include "RecordRow.h"
 #include "TestApp.h"
@@ -54,8 +53,8 @@ protected:
     void expectOneMessage(const QString &text, MsgIcon icon);
 
     TestApp app;
-    FakeHandicapDisplay display;
-    FakeGenderQuestion gender;
+    RecordingHandicapDisplay display;
+    ScriptedGenderQuestion gender;
     QString last = QStringLiteral("Palmer");
     QString first = QStringLiteral("Arnold");
 };

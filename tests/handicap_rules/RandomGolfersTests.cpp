@@ -42,7 +42,7 @@ protected:
         choose(g.last, g.first);
         gender.answer = g.answer;
         gender.asked.clear();
-        display = FakeHandicapDisplay();
+        display = RecordingHandicapDisplay();
         const QStringList untouched = roundsApartFromMarks(g.last, g.first);
 
         ComputeHandicap();

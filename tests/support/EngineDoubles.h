@@ -1,36 +1,36 @@
 #pragma once
 
-#include "TestPrinting.h"
 #include "shell/basLogGlobals.h"
 
 #include <QStringList>
+#include <optional>
 
 namespace quillon::test {
 
-// The frame's side of a handicap run: what the panel and the calculator item were set to.
+// Stands for the frame in a handicap run: what the "Handicap" panel and the
+// calculator item were last set to (nothing, when the engine never touched them).
 class RecordingHandicapDisplay : public HandicapDisplay {
 public:
     void setHandicapPanel(const QString &text) override { panel = text; }
     void setCourseHdcpCalculatorEnabled(bool enabled) override { calculatorEnabled = enabled; }
 
     QString panel;
-    bool calculatorEnabled = false;
+    std::optional<bool> calculatorEnabled;
 };
 
-// Answers the gender question with a fixed letter and remembers who was asked.
+// Stands for the gender dialog: answers with a fixed letter and remembers whom it
+// asked, as "<first> <last>".
 class ScriptedGenderQuestion : public GenderQuestion {
 public:
-    explicit ScriptedGenderQuestion(QString answer) : m_answer(std::move(answer)) {}
+    explicit ScriptedGenderQuestion(QString answer = QStringLiteral("M")) : answer(std::move(answer)) {}
     QString GetGender(const QString &first, const QString &last) override
     {
         asked << first + QLatin1Char(' ') + last;
-        return m_answer;
+        return answer;
     }
 
+    QString answer;
     QStringList asked;
-
-private:
-    QString m_answer;
 };
 
 } // namespace quillon::test
