@@ -55,26 +55,31 @@ public:
 private:
     // Rounds every two or three days, sometimes two on a day: 18- and 9-hole
     // rounds of the three types, one in twenty excluded.
-    static void addGolfer(Connection &c, const QString &last, const QString &first, int rounds, std::mt19937 &rng)
+    static void addGolfer(Connection &c, const QString &last, const QString &first, int rounds,
+                          std::mt19937 &rng)
     {
-        Exec(c, QStringLiteral("INSERT INTO HandicapLog (LastName, FirstName, Gender, Handicap, HomeCourseName) "
-                               "VALUES (?, ?, 'M', -1000, '')"),
+        Exec(c,
+             QStringLiteral("INSERT INTO HandicapLog (LastName, FirstName, Gender, Handicap, HomeCourseName) "
+                            "VALUES (?, ?, 'M', -1000, '')"),
              {last, first});
-        std::uniform_int_distribution<int> gap(0, 3), kind(0, 9), type(0, 2), tenths(-20, 400), excluded(0, 19);
+        std::uniform_int_distribution<int> gap(0, 3), kind(0, 9), type(0, 2), tenths(-20, 400),
+            excluded(0, 19);
         const QStringList types = {"A", "H", "T"};
         QDate date(2010, 1, 1);
         for (int i = 0; i < rounds; ++i) {
             date = date.addDays(gap(rng));
             const int k = kind(rng);
-            const QString holes = k < 6 ? QStringLiteral("18-holes")
-                                        : k < 8 ? QStringLiteral("9-holes (front)") : QStringLiteral("9-holes (back)");
+            const QString holes = k < 6   ? QStringLiteral("18-holes")
+                                  : k < 8 ? QStringLiteral("9-holes (front)")
+                                          : QStringLiteral("9-holes (back)");
             const bool nine = k >= 6;
             Exec(c,
-                 QStringLiteral("INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
-                                "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, "
-                                "LostBalls, Bunkers, SandSaves, AttemptedSaves, CombinedIndex) "
-                                "VALUES (?, ?, 'Pebble Creek', 'White', ?, ?, ?, ?, ?, ?, ?, ?, ?, 0, -1, -1, -1, "
-                                "-1, -1, 1)"),
+                 QStringLiteral(
+                     "INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
+                     "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, "
+                     "LostBalls, Bunkers, SandSaves, AttemptedSaves, CombinedIndex) "
+                     "VALUES (?, ?, 'Pebble Creek', 'White', ?, ?, ?, ?, ?, ?, ?, ?, ?, 0, -1, -1, -1, "
+                     "-1, -1, 1)"),
                  {last, first, IsoDate(date), holes, nine ? 45 : 90, nine ? 44 : 88, nine ? 35.7 : 71.5,
                   nine ? 124 : 125, types.at(type(rng)), tenths(rng) / 10.0,
                   excluded(rng) == 0 ? QStringLiteral("E") : QStringLiteral("N")});
@@ -93,7 +98,8 @@ void BM_ComputeHandicap(benchmark::State &state)
     Connection &c = db();
     const Params golfer = {basLogGlobals().gLastName, basLogGlobals().gFirstName};
     state.counters["record"] =
-        Scalar(c, QStringLiteral("SELECT COUNT(*) FROM ScoringRecord WHERE LastName = ? AND FirstName = ?"), golfer)
+        Scalar(c, QStringLiteral("SELECT COUNT(*) FROM ScoringRecord WHERE LastName = ? AND FirstName = ?"),
+               golfer)
             .toDouble();
     state.counters["used"] = Scalar(c,
                                     QStringLiteral("SELECT COUNT(*) FROM ScoreLog WHERE LastName = ? AND "
@@ -101,7 +107,8 @@ void BM_ComputeHandicap(benchmark::State &state)
                                     golfer)
                                  .toDouble();
     state.counters["index"] =
-        Scalar(c, QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer)
+        Scalar(c, QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
+               golfer)
             .toDouble();
     state.SetLabel(QStringLiteral("%1 rounds").arg(state.range(0)).toStdString());
 }

@@ -37,17 +37,17 @@ bool isDigit(char c)
 
 // A decimal number read from the start of an ASCII text.
 struct DecimalScan {
-    std::size_t end = 0;    // index after the last character read
-    bool hasDigits = false; // at least one mantissa digit
+    std::size_t end = 0;      // index after the last character read
+    bool hasDigits = false;   // at least one mantissa digit
     bool badExponent = false; // an exponent letter without digits after it
     double value = 0.0;
-    bool overflow = false;  // beyond double range (a tiny value reads as 0)
+    bool overflow = false; // beyond double range (a tiny value reads as 0)
 };
 
 DecimalScan scanDecimal(const std::string &text, const char *exponentLetters)
 {
     DecimalScan scan;
-    std::string number;  // what from_chars reads: no '+', 'e' for the exponent
+    std::string number; // what from_chars reads: no '+', 'e' for the exponent
     std::size_t i = 0;
     const bool negative = i < text.size() && text[i] == '-';
     if (i < text.size() && (text[i] == '+' || text[i] == '-'))
@@ -109,7 +109,7 @@ DecimalScan scanDecimal(const std::string &text, const char *exponentLetters)
             scan.value = -scan.value;
     }
     if (scan.value == 0.0)
-        scan.value = 0.0;  // no negative zero
+        scan.value = 0.0; // no negative zero
     return scan;
 }
 
@@ -125,7 +125,7 @@ double readPrefixedInteger(const std::string &text)
         ++i;
     }
     quint64 value = 0;
-    double wideValue = 0.0;  // takes over when the digits pass 64 bits
+    double wideValue = 0.0; // takes over when the digits pass 64 bits
     bool tooLarge = false;
     for (; i < text.size(); ++i) {
         const char c = text[i];

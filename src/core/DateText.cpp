@@ -8,7 +8,10 @@ QString DateText(const QDate &date)
 {
     if (!date.isValid())
         return QString();
-    return QStringLiteral("%1/%2/%3").arg(date.month()).arg(date.day()).arg(date.year(), 4, 10, QLatin1Char('0'));
+    return QStringLiteral("%1/%2/%3")
+        .arg(date.month())
+        .arg(date.day())
+        .arg(date.year(), 4, 10, QLatin1Char('0'));
 }
 
 QDate ParseDateText(const QString &text)

@@ -15,9 +15,9 @@ namespace {
 struct Pattern {
     QString prefix;
     QString suffix;
-    int minIntegerDigits = 0;  // '0' placeholders before the point
+    int minIntegerDigits = 0; // '0' placeholders before the point
     bool hasPoint = false;
-    QString decimals;          // the placeholders after the point, in order
+    QString decimals; // the placeholders after the point, in order
 };
 
 bool isPlaceholder(QChar c)
@@ -39,7 +39,8 @@ Pattern parsePattern(const QString &pattern)
     }
     if (i < pattern.size() && pattern[i] == QLatin1Char('.')) {
         parsed.hasPoint = true;
-        for (++i; i < pattern.size() && (pattern[i] == QLatin1Char('#') || pattern[i] == QLatin1Char('0')); ++i)
+        for (++i; i < pattern.size() && (pattern[i] == QLatin1Char('#') || pattern[i] == QLatin1Char('0'));
+             ++i)
             parsed.decimals += pattern[i];
     }
     parsed.suffix = pattern.mid(i);
@@ -60,7 +61,7 @@ std::string roundedUnits(double value, int significantDigits, int decimals)
     char buffer[64];
     const auto result = std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value),
                                       std::chars_format::scientific, significantDigits - 1);
-    const std::string text(buffer, result.ptr);  // d.ddddde±xx
+    const std::string text(buffer, result.ptr); // d.ddddde±xx
     const std::size_t ePos = text.find('e');
     std::string digits = text.substr(0, 1) + text.substr(2, ePos - 2);
     const int exponent = std::stoi(text.substr(ePos + 1));

@@ -30,7 +30,7 @@ public:
     Int16 operator++(int);
     Int16 &operator--();
     Int16 operator--(int);
-    Int16 operator-() const;  // -(-32768) overflows
+    Int16 operator-() const; // -(-32768) overflows
 
     friend Int16 operator+(Int16 a, Int16 b) { return a += b; }
     friend Int16 operator-(Int16 a, Int16 b) { return a -= b; }

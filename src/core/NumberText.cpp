@@ -14,7 +14,7 @@ QString generalText(double value, int significantDigits)
     if (!std::isfinite(value))
         throw QuillonError::overflow();
     if (value == 0.0)
-        return QStringLiteral("0");  // also for -0.0
+        return QStringLiteral("0"); // also for -0.0
     char buffer[64];
     // chars_format::general is %g: trailing zeros dropped, exponent of at
     // least two digits, and the same fixed/exponent switching rule.

@@ -4,8 +4,7 @@ namespace quillon {
 
 QuillonError::QuillonError(int number, const QString &description)
     : std::runtime_error(QStringLiteral("Error %1: %2").arg(number).arg(description).toStdString()),
-      m_number(number),
-      m_description(description)
+      m_number(number), m_description(description)
 {
 }
 

@@ -84,9 +84,10 @@ frmGender &frmGender::instance()
 
 QString frmGender::GetGender(const QString &first, const QString &last)
 {
-    m_lblInstructions->setText(QStringLiteral("Please indicate the gender of golfer %1 %2.  This information is "
-                                              "needed for the handicap calculations.")
-                                   .arg(first, last));
+    m_lblInstructions->setText(
+        QStringLiteral("Please indicate the gender of golfer %1 %2.  This information is "
+                       "needed for the handicap calculations.")
+            .arg(first, last));
     clearOptions();
     // Take the size the new text needs before measuring where to stand.
     ensurePolished();
@@ -116,7 +117,8 @@ void frmGender::centreOnFrame()
     winId();
     const QRect outer = frame->frameGeometry();
     const QSize own = frameGeometry().size();
-    move(outer.left() + outer.width() / 2 - own.width() / 2, outer.top() + outer.height() / 2 - own.height() / 2);
+    move(outer.left() + outer.width() / 2 - own.width() / 2,
+         outer.top() + outer.height() / 2 - own.height() / 2);
 }
 
 } // namespace quillon

@@ -6,6 +6,7 @@
 #include "core/Int16.h"
 #include "core/QuillonError.h"
 #include "shell/basLogGlobals.h"
+#include "store/Encodings.h"
 
 #include <QSqlQuery>
 #include <cmath>
@@ -31,11 +32,11 @@ double numberOrZero(const QVariant &v)
 
 HolesPlayed HolesPlayedFrom(const QString &holesText)
 {
-    if (holesText == QLatin1String("18-holes"))
+    if (holesText == Holes::Eighteen)
         return HolesPlayed::Eighteen;
-    if (holesText == QLatin1String("9-holes (front)"))
+    if (holesText == Holes::FrontNine)
         return HolesPlayed::Front;
-    if (holesText == QLatin1String("9-holes (back)"))
+    if (holesText == Holes::BackNine)
         return HolesPlayed::Back;
     return HolesPlayed::Other;
 }
@@ -96,9 +97,9 @@ QString DifferentialText(float differential)
 
 float IndexForAdjustment(Connection &c, const QString &last, const QString &first)
 {
-    const Recordset golfer =
-        Query(c, QStringLiteral("SELECT Handicap, Gender FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
-              {last, first});
+    const Recordset golfer = Query(
+        c, QStringLiteral("SELECT Handicap, Gender FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
+        {last, first});
     const QVariant handicap = golfer.value(0);
     if (!handicap.isNull() && float(handicap.toDouble()) != -1000.0f)
         return float(handicap.toDouble());
@@ -125,8 +126,9 @@ std::optional<RatingSlope> CourseRatingSlope(Connection &c, const QString &cours
     return RatingSlope{numberOrZero(tee.value(column)), CInt(numberOrZero(tee.value(column + 1)))};
 }
 
-QVector<HoleScore> RoundHoleScores(Connection &c, qint64 scoreIndex, const QString &last, const QString &first,
-                                   const QDate &date, const QString &course, const QString &tees)
+QVector<HoleScore> RoundHoleScores(Connection &c, qint64 scoreIndex, const QString &last,
+                                   const QString &first, const QDate &date, const QString &course,
+                                   const QString &tees)
 {
     QSqlQuery &q = c.run(QStringLiteral("SELECT Score, PAR FROM ScoreDetails WHERE ScoreIndex = ? "
                                         "AND LastName = ? AND FirstName = ? AND Date = ? AND CourseName = ? "
@@ -154,8 +156,8 @@ qint16 ComputeAdjustedScore(qint16 totalScore, qint64 scoreIndex, const QString 
                             const QDate &date, const QString &holesText)
 {
     const LogGlobals &g = basLogGlobals();
-    const ScoreInputs in = LoadScoreInputs(db(), g.gLastName, g.gFirstName, scoreIndex, course, tees, date,
-                                           holesText);
+    const ScoreInputs in =
+        LoadScoreInputs(db(), g.gLastName, g.gFirstName, scoreIndex, course, tees, date, holesText);
     const qint16 courseHandicap = CourseHandicap(in.index, in.course.slope, holesText);
     if (in.holes.isEmpty())
         return totalScore;

@@ -70,8 +70,9 @@ float IndexForAdjustment(Connection &c, const QString &last, const QString &firs
 std::optional<RatingSlope> CourseRatingSlope(Connection &c, const QString &course, const QString &tees,
                                              const QString &holesText);
 // ScoreDetails of one round, by Hole.
-QVector<HoleScore> RoundHoleScores(Connection &c, qint64 scoreIndex, const QString &last, const QString &first,
-                                   const QDate &date, const QString &course, const QString &tees);
+QVector<HoleScore> RoundHoleScores(Connection &c, qint64 scoreIndex, const QString &last,
+                                   const QString &first, const QDate &date, const QString &course,
+                                   const QString &tees);
 ScoreInputs LoadScoreInputs(Connection &c, const QString &last, const QString &first, qint64 scoreIndex,
                             const QString &course, const QString &tees, const QDate &date,
                             const QString &holesText);

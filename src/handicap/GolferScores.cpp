@@ -13,11 +13,12 @@ GolferScores::GolferScores(Connection &connection, QString last, QString first)
 
 QVariant GolferScores::periodStart()
 {
-    const Recordset newest = Query(m_connection,
-                                   QStringLiteral("SELECT Date FROM ScoreLog WHERE LastName = ? AND FirstName = ? "
-                                                  "AND Holes = '18-holes' AND Used <> 'E' "
-                                                  "ORDER BY Date DESC LIMIT 20"),
-                                   golfer());
+    const Recordset newest =
+        Query(m_connection,
+              QStringLiteral("SELECT Date FROM ScoreLog WHERE LastName = ? AND FirstName = ? "
+                             "AND Holes = '18-holes' AND Used <> 'E' "
+                             "ORDER BY Date DESC LIMIT 20"),
+              golfer());
     if (newest.isEmpty())
         return QVariant(QStringLiteral(""));
     const QVariant date = newest.rows().constLast().value(0);
@@ -36,10 +37,11 @@ void GolferScores::resetMarksBefore(const QVariant &start)
 QVector<LogRound> GolferScores::periodRounds(const QVariant &start)
 {
     QSqlQuery &q = m_connection.run(
-        QStringLiteral("SELECT ScoreIndex, LastName, FirstName, CourseName, Date, Holes, Type, AdjustedScore, "
-                       "Rating, Slope, Differential, Used, CombinedIndex FROM ScoreLog "
-                       "WHERE LastName = ? AND FirstName = ? AND Used <> 'E' AND Date >= ? "
-                       "ORDER BY Date, ScoreIndex"),
+        QStringLiteral(
+            "SELECT ScoreIndex, LastName, FirstName, CourseName, Date, Holes, Type, AdjustedScore, "
+            "Rating, Slope, Differential, Used, CombinedIndex FROM ScoreLog "
+            "WHERE LastName = ? AND FirstName = ? AND Used <> 'E' AND Date >= ? "
+            "ORDER BY Date, ScoreIndex"),
         {m_last, m_first, start});
     QVector<LogRound> rounds;
     while (q.next()) {
@@ -65,7 +67,8 @@ QVector<LogRound> GolferScores::periodRounds(const QVariant &start)
 
 void GolferScores::deleteRecord()
 {
-    Exec(m_connection, QStringLiteral("DELETE FROM ScoringRecord WHERE LastName = ? AND FirstName = ?"), golfer());
+    Exec(m_connection, QStringLiteral("DELETE FROM ScoringRecord WHERE LastName = ? AND FirstName = ?"),
+         golfer());
 }
 
 QSet<qint64> GolferScores::roundsHeldInRecord()
@@ -95,9 +98,10 @@ void GolferScores::insertRecord(const QVector<RecordRow> &rows)
 QVector<RecordRow> GolferScores::readRecord()
 {
     QSqlQuery &q = m_connection.run(
-        QStringLiteral("SELECT rowid, LastName, FirstName, CourseName, Date, ScoreIndex, CombinedIndex, Score, "
-                       "Rating, Slope, Differential, Used, Details FROM ScoringRecord "
-                       "WHERE LastName = ? AND FirstName = ? ORDER BY Date, ScoreIndex"),
+        QStringLiteral(
+            "SELECT rowid, LastName, FirstName, CourseName, Date, ScoreIndex, CombinedIndex, Score, "
+            "Rating, Slope, Differential, Used, Details FROM ScoringRecord "
+            "WHERE LastName = ? AND FirstName = ? ORDER BY Date, ScoreIndex"),
         golfer());
     QVector<RecordRow> rows;
     while (q.next()) {
@@ -148,7 +152,8 @@ bool GolferScores::logHasRound(qint64 scoreIndex)
 void GolferScores::writeMark(const LogMark &mark)
 {
     if (mark.setsCombinedIndex)
-        Exec(m_connection, QStringLiteral("UPDATE ScoreLog SET Used = ?, CombinedIndex = ? WHERE ScoreIndex = ?"),
+        Exec(m_connection,
+             QStringLiteral("UPDATE ScoreLog SET Used = ?, CombinedIndex = ? WHERE ScoreIndex = ?"),
              {mark.used, mark.combinedIndex, mark.scoreIndex});
     else
         Exec(m_connection, QStringLiteral("UPDATE ScoreLog SET Used = ? WHERE ScoreIndex = ?"),
@@ -167,7 +172,8 @@ std::optional<QVariant> GolferScores::gender()
 
 void GolferScores::storeGender(const QString &gender)
 {
-    Exec(m_connection, QStringLiteral("UPDATE HandicapLog SET Gender = ? WHERE LastName = ? AND FirstName = ?"),
+    Exec(m_connection,
+         QStringLiteral("UPDATE HandicapLog SET Gender = ? WHERE LastName = ? AND FirstName = ?"),
          {gender, m_last, m_first});
 }
 

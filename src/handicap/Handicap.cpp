@@ -7,6 +7,7 @@
 #include "core/Format.h"
 #include "platform/Platform.h"
 #include "shell/basLogGlobals.h"
+#include "store/Encodings.h"
 
 #include <QHash>
 #include <algorithm>
@@ -16,8 +17,6 @@ namespace quillon {
 
 namespace {
 
-const QString kUsed = QStringLiteral("Y");
-const QString kNotUsed = QStringLiteral("N");
 constexpr int kMinimumScores = 5;
 
 GolferScores currentGolfer()
@@ -70,7 +69,7 @@ void writePeriodMarks(GolferScores &scores, const QVector<LogRound> &rounds, con
 {
     QHash<qint64, LogMark> final;
     for (const LogRound &r : rounds)
-        final.insert(r.scoreIndex, {r.scoreIndex, kNotUsed, true, qlonglong(1)});
+        final.insert(r.scoreIndex, {r.scoreIndex, UsedMark::NotUsed, true, qlonglong(NoPair)});
     for (const LogMark &m : marks) {
         LogMark &f = final[m.scoreIndex];
         f.used = m.used;
@@ -119,7 +118,8 @@ float indexFromUsed(GolferScores &scores, const QVector<QVariant> &used)
     differentials.reserve(used.size());
     for (const QVariant &d : used)
         differentials.append(UsedScoreMarker::StoredValue(d));
-    const QString text = IndexText::FromSum(IndexText::SumOfDifferentials(differentials), differentials.size());
+    const QString text =
+        IndexText::FromSum(IndexText::SumOfDifferentials(differentials), differentials.size());
     return IndexText::Value(IndexText::Capped(text, genderFor(scores)));
 }
 
@@ -202,7 +202,7 @@ void ComputeHandicap()
     if (rows.size() >= kMinimumScores) {
         QVector<QVariant> used;
         for (const int i : byDate)
-            if (rows.at(i).used == kUsed)
+            if (rows.at(i).used == UsedMark::Used)
                 used.append(rows.at(i).differential);
         value = indexFromUsed(scores, used);
     }

@@ -51,10 +51,4 @@ struct LogMark {
     QVariant combinedIndex;
 };
 
-inline const QString &CombinedCourseName()
-{
-    static const QString name = QStringLiteral("Combined");
-    return name;
-}
-
 } // namespace quillon

@@ -2,6 +2,8 @@
 
 #include "NoCase.h"
 #include "core/DateText.h"
+#include "core/VariantKind.h"
+#include "store/Encodings.h"
 
 #include <QHash>
 #include <cmath>
@@ -11,28 +13,11 @@ namespace quillon {
 
 namespace {
 
-const QString kEighteenHoles = QStringLiteral("18-holes");
-const QString kFrontNine = QStringLiteral("9-holes (front)");
-const QString kBackNine = QStringLiteral("9-holes (back)");
-
-bool isIntegral(const QVariant &v)
-{
-    switch (v.typeId()) {
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return true;
-    default:
-        return false;
-    }
-}
-
 QVariant sumOfScores(const QVariant &a, const QVariant &b)
 {
     if (a.isNull() || b.isNull())
         return QVariant();
-    if (isIntegral(a) && isIntegral(b))
+    if (IsIntegral(a) && IsIntegral(b))
         return a.toLongLong() + b.toLongLong();
     return a.toDouble() + b.toDouble();
 }
@@ -80,7 +65,7 @@ RecordRow combinedRow(const LogRound &older, const LogRound &partner)
     RecordRow row;
     row.lastName = older.lastName;
     row.firstName = older.firstName;
-    row.courseName = CombinedCourseName();
+    row.courseName = CombinedCourse;
     row.date = partner.date;
     row.scoreIndex = partner.scoreIndex;
     row.combinedIndex = older.scoreIndex;
@@ -156,12 +141,13 @@ private:
 
 bool isNine(const LogRound &r)
 {
-    return SameNoCase(r.holes, kFrontNine) || SameNoCase(r.holes, kBackNine);
+    return SameNoCase(r.holes, Holes::FrontNine) || SameNoCase(r.holes, Holes::BackNine);
 }
 
 } // namespace
 
-ScoringRecordBuilder::ScoringRecordBuilder(QSet<qint64> heldElsewhere) : m_heldElsewhere(std::move(heldElsewhere))
+ScoringRecordBuilder::ScoringRecordBuilder(QSet<qint64> heldElsewhere)
+    : m_heldElsewhere(std::move(heldElsewhere))
 {
 }
 
@@ -177,7 +163,7 @@ QVector<RecordRow> ScoringRecordBuilder::build(const QVector<LogRound> &walk) co
 
     RecordInProgress record(m_heldElsewhere);
     for (const LogRound &round : walk) {
-        if (round.holes == kEighteenHoles) {
+        if (round.holes == Holes::Eighteen) {
             record.add(eighteenHoleRow(round));
             continue;
         }

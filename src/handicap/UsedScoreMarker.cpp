@@ -3,29 +3,12 @@
 #include "NoCase.h"
 #include "core/NumberText.h"
 #include "core/QuillonError.h"
+#include "core/VariantKind.h"
+#include "store/Encodings.h"
 
 namespace quillon {
 
 namespace {
-
-const QString kNotUsed = QStringLiteral("N");
-const QString kUsed = QStringLiteral("Y");
-const QString kCombinedUsed = QStringLiteral("C");
-
-bool isNumber(const QVariant &v)
-{
-    switch (v.typeId()) {
-    case QMetaType::Double:
-    case QMetaType::Float:
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-        return true;
-    default:
-        return false;
-    }
-}
 
 // The look-up compares the column with the value's single-precision text.
 double lookupValue(float value)
@@ -42,7 +25,7 @@ RecordRow *newestNotUsedWith(double value, QVector<RecordRow> &rows)
 {
     RecordRow *found = nullptr;
     for (RecordRow &row : rows) {
-        if (!SameNoCase(row.used, kNotUsed) || !isNumber(row.differential) ||
+        if (!SameNoCase(row.used, UsedMark::NotUsed) || !IsNumber(row.differential) ||
             row.differential.toDouble() != value)
             continue;
         if (!found || newer(row, *found))
@@ -89,23 +72,25 @@ QVector<float> UsedScoreMarker::LowestDifferentials(int count, const QVector<flo
     return best;
 }
 
-QVector<LogMark> UsedScoreMarker::Mark(const QVector<float> &best, QVector<RecordRow> &rows, const LogHasRound &logHas)
+QVector<LogMark> UsedScoreMarker::Mark(const QVector<float> &best, QVector<RecordRow> &rows,
+                                       const LogHasRound &logHas)
 {
     QVector<LogMark> marks;
     for (const float value : best) {
         RecordRow *row = newestNotUsedWith(lookupValue(value), rows);
         if (!row)
             continue;
-        row->used = kUsed;
+        row->used = UsedMark::Used;
         if (!logHas(row->scoreIndex))
             continue;
-        if (row->courseName == CombinedCourseName()) {
+        if (row->courseName == CombinedCourse) {
             // Each 9-hole round of the pair points to the other.
-            marks.append({row->scoreIndex, kCombinedUsed, true, row->combinedIndex});
+            marks.append({row->scoreIndex, UsedMark::CombinedUsed, true, row->combinedIndex});
             if (!row->combinedIndex.isNull() && logHas(row->combinedIndex.toLongLong()))
-                marks.append({row->combinedIndex.toLongLong(), kCombinedUsed, true, row->scoreIndex});
+                marks.append(
+                    {row->combinedIndex.toLongLong(), UsedMark::CombinedUsed, true, row->scoreIndex});
         } else {
-            marks.append({row->scoreIndex, kUsed, false, QVariant()});
+            marks.append({row->scoreIndex, UsedMark::Used, false, QVariant()});
         }
     }
     return marks;

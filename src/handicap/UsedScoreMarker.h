@@ -21,7 +21,8 @@ public:
     // row with that value among those still "N".  A value that matches no
     // stored differential marks nothing.  Returns what the ScoreLog rows get,
     // in the order it is written.
-    static QVector<LogMark> Mark(const QVector<float> &best, QVector<RecordRow> &rows, const LogHasRound &logHas);
+    static QVector<LogMark> Mark(const QVector<float> &best, QVector<RecordRow> &rows,
+                                 const LogHasRound &logHas);
 
     // A row's Differential as stored, and as the single-precision number the
     // scan reads; a Null is the fault "Invalid use of Null" (94).

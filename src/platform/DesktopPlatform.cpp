@@ -67,7 +67,8 @@ MsgAnswer DesktopPlatform::messageBox(const QString &text, MsgIcon icon, const Q
     return MsgAnswer::OK;
 }
 
-QString DesktopPlatform::getSaveFileName(const QString &title, const QString &filter, const QString &defaultName)
+QString DesktopPlatform::getSaveFileName(const QString &title, const QString &filter,
+                                         const QString &defaultName)
 {
     return QFileDialog::getSaveFileName(dialogParent(), title, defaultName, toQtFilter(filter));
 }

@@ -56,6 +56,9 @@ void installPlatform(std::unique_ptr<Platform> p);
 QString appFile(const QString &fileName);
 
 // The application's title, used as the default title of its message boxes.
-inline QString appTitle() { return QStringLiteral("Quillon for Golf"); }
+inline QString appTitle()
+{
+    return QStringLiteral("Quillon for Golf");
+}
 
 } // namespace quillon

@@ -320,9 +320,10 @@ void MDIForm1::Toolbar1_ButtonClick(const QAction *button)
 
 void MDIForm1::DatabaseMissing()
 {
-    platform().messageBox(QStringLiteral("Unable to locate the Quillon database.  You must restore your backup "
-                                         "database or re-install Quillon for Golf."),
-                          MsgIcon::Critical, QStringLiteral("Quillon for Golf -- Missing Component"));
+    platform().messageBox(
+        QStringLiteral("Unable to locate the Quillon database.  You must restore your backup "
+                       "database or re-install Quillon for Golf."),
+        MsgIcon::Critical, QStringLiteral("Quillon for Golf -- Missing Component"));
 
     for (const char *name : {"mnuFileNew", "mnuFilePrint", "mnuEdit", "mnuView", "mnuToolsRSCalculator",
                              "mnuDatabaseBackup", "mnuToolsDelete"})

@@ -21,8 +21,8 @@ void openAndCount(LogGlobals &g)
     g.gLastName = QString();
     g.gFirstName = QString();
 
-    const Recordset courses =
-        Query(*g.gConnection, QStringLiteral("SELECT DISTINCT CourseName FROM CourseLog ORDER BY CourseName"));
+    const Recordset courses = Query(
+        *g.gConnection, QStringLiteral("SELECT DISTINCT CourseName FROM CourseLog ORDER BY CourseName"));
     g.gCourseCount = Int16(courses.rowCount()).value();
 }
 

@@ -134,8 +134,8 @@ void drawLineChart(QPainter &p)
 {
     p.setPen(outlinePen(1.6));
     p.drawPolyline(QPolygonF({QPointF(4.5, 3.5), QPointF(4.5, 27.5), QPointF(29, 27.5)}));
-    const QPolygonF points({QPointF(8, 21), QPointF(13, 14), QPointF(18, 18), QPointF(23, 8),
-                            QPointF(27.5, 12)});
+    const QPolygonF points(
+        {QPointF(8, 21), QPointF(13, 14), QPointF(18, 18), QPointF(23, 8), QPointF(27.5, 12)});
     p.setPen(QPen(kBlue, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.drawPolyline(points);
     p.setPen(outlinePen(1));

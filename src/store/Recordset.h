@@ -24,8 +24,16 @@ public:
 
     void moveFirst() { m_pos = 0; }
     void moveLast() { m_pos = m_rows.size() - 1; }
-    void moveNext() { if (m_pos < m_rows.size()) ++m_pos; }
-    void movePrevious() { if (m_pos >= 0) --m_pos; }
+    void moveNext()
+    {
+        if (m_pos < m_rows.size())
+            ++m_pos;
+    }
+    void movePrevious()
+    {
+        if (m_pos >= 0)
+            --m_pos;
+    }
     void move(int index) { m_pos = index; }
 
     int columnCount() const { return m_columns.count(); }

@@ -38,9 +38,9 @@ QString nextConnectionName()
 const QStringList &requiredTables()
 {
     static const QStringList tables = {
-        QStringLiteral("HandicapLog"),  QStringLiteral("ScoreLog"),      QStringLiteral("ScoreDetails"),
-        QStringLiteral("ScoringRecord"), QStringLiteral("CourseLog"),    QStringLiteral("CourseDetails"),
-        QStringLiteral("UnratedTees"),  QStringLiteral("DBVersion"),
+        QStringLiteral("HandicapLog"),   QStringLiteral("ScoreLog"),  QStringLiteral("ScoreDetails"),
+        QStringLiteral("ScoringRecord"), QStringLiteral("CourseLog"), QStringLiteral("CourseDetails"),
+        QStringLiteral("UnratedTees"),   QStringLiteral("DBVersion"),
     };
     return tables;
 }

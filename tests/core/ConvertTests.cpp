@@ -20,9 +20,9 @@ TEST(CInt, HalvesRoundToEven)
         double value;
         qint16 expected;
     } cases[] = {
-        {2.5, 2},   {3.5, 4},   {-2.5, -2}, {-3.5, -4}, {0.5, 0},     {-0.5, 0},         {1.5, 2},
-        {-1.5, -2}, {2.4, 2},   {2.6, 3},   {-2.4, -2}, {-2.6, -3},   {0.0, 0},          {-0.0, 0},
-        {4.5, 4},   {5.5, 6},   {12.0, 12}, {-7.0, -7}, {32766.5, 32766}, {-32767.5, -32768},
+        {2.5, 2},   {3.5, 4}, {-2.5, -2}, {-3.5, -4}, {0.5, 0},         {-0.5, 0},          {1.5, 2},
+        {-1.5, -2}, {2.4, 2}, {2.6, 3},   {-2.4, -2}, {-2.6, -3},       {0.0, 0},           {-0.0, 0},
+        {4.5, 4},   {5.5, 6}, {12.0, 12}, {-7.0, -7}, {32766.5, 32766}, {-32767.5, -32768},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.value);
@@ -42,7 +42,8 @@ TEST(CInt, OverflowsOnlyWhenTheRoundedValueLeavesTheRange)
         SCOPED_TRACE(c.value);
         EXPECT_EQ(CInt(c.value), c.expected);
     }
-    for (const double value : {32767.5, 32768.0, -32768.6, -32769.0, -32769.5, 1e10, -1e10, infinity, notANumber}) {
+    for (const double value :
+         {32767.5, 32768.0, -32768.6, -32769.0, -32769.5, 1e10, -1e10, infinity, notANumber}) {
         SCOPED_TRACE(value);
         EXPECT_EQ(errorNumberOf([value] { CInt(value); }), 6);
     }
@@ -68,7 +69,8 @@ TEST(CLng, HalvesRoundToEvenAndOverflowsBeyondThirtyTwoBits)
         SCOPED_TRACE(c.value);
         EXPECT_EQ(CLng(c.value), c.expected);
     }
-    for (const double value : {2147483647.5, 2147483648.0, -2147483648.6, -2147483649.0, infinity, notANumber}) {
+    for (const double value :
+         {2147483647.5, 2147483648.0, -2147483648.6, -2147483649.0, infinity, notANumber}) {
         SCOPED_TRACE(value);
         EXPECT_EQ(errorNumberOf([value] { CLng(value); }), 6);
     }
@@ -114,7 +116,8 @@ TEST(Val, ReadsTheLeadingNumberAndIgnoresBlanks)
         {"1e", 1.0},
         {"1e+", 1.0},
         {"5,000", 5.0},
-        {"12\r\n", 12.0},  // a carriage return is not a blank: it ends the number
+        {"12\r\n", 12.0}, // a carriage return is not a blank: it ends
+                          // the number
         {"--5", 0.0},
         {"-", 0.0},
         {".", 0.0},
@@ -134,11 +137,23 @@ TEST(Val, ReadsHexAndOctalAsSixteenThenThirtyTwoBitValues)
         const char *text;
         double expected;
     } cases[] = {
-        {"&H1F", 31.0},     {"&O17", 15.0},     {"&17", 15.0},          {"&hff", 255.0},
-        {"&H7FFF", 32767.0}, {"&H8000", -32768.0}, {"&HFFFF", -1.0},   {"&H10000", 65536.0},
-        {"&H7FFFFFFF", 2147483647.0}, {"&HFFFFFFFF", -1.0}, {"&H100000000", 4294967296.0},
-        {"&H1G", 1.0},      {"&O8", 0.0},       {"&H", 0.0},            {"&", 0.0},
-        {" & H 1 F", 31.0}, {"&H10000000000000000", 18446744073709551616.0},
+        {"&H1F", 31.0},
+        {"&O17", 15.0},
+        {"&17", 15.0},
+        {"&hff", 255.0},
+        {"&H7FFF", 32767.0},
+        {"&H8000", -32768.0},
+        {"&HFFFF", -1.0},
+        {"&H10000", 65536.0},
+        {"&H7FFFFFFF", 2147483647.0},
+        {"&HFFFFFFFF", -1.0},
+        {"&H100000000", 4294967296.0},
+        {"&H1G", 1.0},
+        {"&O8", 0.0},
+        {"&H", 0.0},
+        {"&", 0.0},
+        {" & H 1 F", 31.0},
+        {"&H10000000000000000", 18446744073709551616.0},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
@@ -163,9 +178,9 @@ TEST(CDbl, AcceptsSignedDecimalsWithSurroundingBlanks)
         const char *text;
         double expected;
     } cases[] = {
-        {"12", 12.0},      {" 12 ", 12.0},   {"\t-3.5\t", -3.5}, {"+.5", 0.5},    {"5.", 5.0},
-        {"1e2", 100.0},    {"1E-2", 0.01},   {"-1.5e+3", -1500.0}, {"0.1", 0.1},  {"8.8", 8.8},
-        {"1e-400", 0.0},   {"007", 7.0},
+        {"12", 12.0}, {" 12 ", 12.0}, {"\t-3.5\t", -3.5}, {"+.5", 0.5},
+        {"5.", 5.0},  {"1e2", 100.0}, {"1E-2", 0.01},     {"-1.5e+3", -1500.0},
+        {"0.1", 0.1}, {"8.8", 8.8},   {"1e-400", 0.0},    {"007", 7.0},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);
@@ -177,8 +192,8 @@ TEST(CDbl, AcceptsSignedDecimalsWithSurroundingBlanks)
 TEST(CDbl, RejectsAnythingButANumberWithTypeMismatch)
 {
     const char *const cases[] = {
-        "",   "   ", "12abc", "abc", ".", "-", "1e", "1e+", "1 2", "1.2.3", "&H1F",
-        "1D2", "--5", "+-5",  "5-",  "1,5", "12\n", "e5",
+        "",      "   ",  "12abc", "abc", ".",   "-",  "1e",  "1e+",  "1 2",
+        "1.2.3", "&H1F", "1D2",   "--5", "+-5", "5-", "1,5", "12\n", "e5",
     };
     for (const char *text : cases) {
         SCOPED_TRACE(text);
@@ -233,11 +248,11 @@ TEST(Conversion, StrictAndLenientReadTheSameTextsDifferently)
     const struct {
         const char *text;
         double lenient;
-        int strictError;  // 0: strict reading succeeds with the lenient value
+        int strictError; // 0: strict reading succeeds with the lenient value
     } cases[] = {
-        {"12abc", 12.0, 13},   {"", 0.0, 13},       {"  1 2 3", 123.0, 13}, {"-3.5x", -3.5, 13},
-        {".5", 0.5, 0},        {"1e2", 100.0, 0},   {"&H1F", 31.0, 13},     {"abc", 0.0, 13},
-        {" 42 ", 42.0, 0},     {"1e", 1.0, 13},     {"-7", -7.0, 0},        {".", 0.0, 13},
+        {"12abc", 12.0, 13}, {"", 0.0, 13},     {"  1 2 3", 123.0, 13}, {"-3.5x", -3.5, 13},
+        {".5", 0.5, 0},      {"1e2", 100.0, 0}, {"&H1F", 31.0, 13},     {"abc", 0.0, 13},
+        {" 42 ", 42.0, 0},   {"1e", 1.0, 13},   {"-7", -7.0, 0},        {".", 0.0, 13},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.text);

@@ -40,7 +40,7 @@ struct ArithmeticCase {
     int a;
     Op op;
     int b;
-    int expected;  // ignored when overflows
+    int expected; // ignored when overflows
     bool overflows;
 };
 
@@ -50,24 +50,15 @@ const char *opName(Op op)
 }
 
 const ArithmeticCase arithmeticCases[] = {
-    {32766, Op::Add, 1, 32767, false},
-    {32767, Op::Add, 1, 0, true},
-    {-32768, Op::Add, -1, 0, true},
-    {-32768, Op::Add, 32767, -1, false},
-    {20000, Op::Add, 20000, 0, true},
-    {-20000, Op::Add, -12768, -32768, false},
-    {-32767, Op::Subtract, 1, -32768, false},
-    {-32768, Op::Subtract, 1, 0, true},
-    {32767, Op::Subtract, -1, 0, true},
-    {0, Op::Subtract, -32768, 0, true},
-    {-1, Op::Subtract, -32768, 32767, false},
-    {181, Op::Multiply, 181, 32761, false},
-    {182, Op::Multiply, 181, 0, true},
-    {-256, Op::Multiply, 128, -32768, false},
-    {256, Op::Multiply, 128, 0, true},
-    {-1, Op::Multiply, -32768, 0, true},
-    {-32768, Op::Multiply, 1, -32768, false},
-    {300, Op::Multiply, -300, 0, true},
+    {32766, Op::Add, 1, 32767, false},        {32767, Op::Add, 1, 0, true},
+    {-32768, Op::Add, -1, 0, true},           {-32768, Op::Add, 32767, -1, false},
+    {20000, Op::Add, 20000, 0, true},         {-20000, Op::Add, -12768, -32768, false},
+    {-32767, Op::Subtract, 1, -32768, false}, {-32768, Op::Subtract, 1, 0, true},
+    {32767, Op::Subtract, -1, 0, true},       {0, Op::Subtract, -32768, 0, true},
+    {-1, Op::Subtract, -32768, 32767, false}, {181, Op::Multiply, 181, 32761, false},
+    {182, Op::Multiply, 181, 0, true},        {-256, Op::Multiply, 128, -32768, false},
+    {256, Op::Multiply, 128, 0, true},        {-1, Op::Multiply, -32768, 0, true},
+    {-32768, Op::Multiply, 1, -32768, false}, {300, Op::Multiply, -300, 0, true},
     {0, Op::Multiply, -32768, 0, false},
 };
 

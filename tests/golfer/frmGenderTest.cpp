@@ -1,6 +1,6 @@
+#include "golfer/frmGender.h"
 #include "TestApp.h"
 #include "golfer/GenderDialogQuestion.h"
-#include "golfer/frmGender.h"
 
 #include <QApplication>
 #include <QGroupBox>
@@ -17,7 +17,8 @@ using namespace quillon;
 
 namespace {
 
-template <typename T> T *control(QWidget *form, const char *name)
+template <typename T>
+T *control(QWidget *form, const char *name)
 {
     T *found = form->findChild<T *>(QLatin1String(name));
     if (!found)

@@ -1,5 +1,5 @@
-#include "HandicapFixture.h"
 #include "handicap/AdjustedScore.h"
+#include "HandicapFixture.h"
 
 using namespace quillon;
 using namespace quillon::test;
@@ -29,21 +29,22 @@ TEST(CourseHandicap, IsIndexTimesSlopeOver113Floored)
         int slope;
         int courseHandicap;
     } table[] = {
-        {12.4f, 113, 12},  // edge: cap 7
-        {9.9f, 125, 10},   // 10.95
-        {8.9f, 120, 9},    // 9.45
-        {36.4f, 130, 41},  // a man without index: 41.88
-        {40.4f, 113, 40},  // a woman without index
-        {36.4f, 125, 40},  // 40.27
-        {40.4f, 125, 44},  // 44.69
-        {10.4f, 130, 11},  // 11.96: the USGA table rounds to 12, this program floors
-        {15.2f, 135, 18},  // 18.16
-        {11.3f, 130, 13},  // exactly 13 in single precision
-        {0.0f, 125, 0},    {-2.5f, 113, -3}, // a negative index floors downward
-        {-0.2f, 120, -1},  {2.0f, 155, 2},  {5.0f, 55, 2},
+        {12.4f, 113, 12},                   // edge: cap 7
+        {9.9f, 125, 10},                    // 10.95
+        {8.9f, 120, 9},                     // 9.45
+        {36.4f, 130, 41},                   // a man without index: 41.88
+        {40.4f, 113, 40},                   // a woman without index
+        {36.4f, 125, 40},                   // 40.27
+        {40.4f, 125, 44},                   // 44.69
+        {10.4f, 130, 11},                   // 11.96: the USGA table rounds to 12, this program floors
+        {15.2f, 135, 18},                   // 18.16
+        {11.3f, 130, 13},                   // exactly 13 in single precision
+        {0.0f, 125, 0},   {-2.5f, 113, -3}, // a negative index floors downward
+        {-0.2f, 120, -1}, {2.0f, 155, 2},   {5.0f, 55, 2},
     };
     for (const auto &row : table)
-        EXPECT_EQ(CourseHandicap(row.index, row.slope, k18), row.courseHandicap) << row.index << " on " << row.slope;
+        EXPECT_EQ(CourseHandicap(row.index, row.slope, k18), row.courseHandicap)
+            << row.index << " on " << row.slope;
 }
 
 TEST(CourseHandicap, NinesUseTheFullIndexAndOtherHolesTextsGiveZero)
@@ -59,8 +60,8 @@ TEST(HoleCap, FollowsTheTable)
     const struct {
         int courseHandicap;
         int cap; // 0: par plus 2
-    } table[] = {{-5, 0}, {0, 0}, {9, 0}, {10, 7}, {19, 7}, {20, 8}, {23, 8}, {29, 8},
-                 {30, 9}, {39, 9}, {40, 10}, {41, 10}, {54, 10}};
+    } table[] = {{-5, 0}, {0, 0},  {9, 0},  {10, 7},  {19, 7},  {20, 8}, {23, 8},
+                 {29, 8}, {30, 9}, {39, 9}, {40, 10}, {41, 10}, {54, 10}};
     for (const auto &row : table)
         EXPECT_EQ(HoleCap(qint16(row.courseHandicap)).value_or(0), row.cap) << row.courseHandicap;
 }
@@ -95,7 +96,8 @@ TEST(AdjustedScore, NoIndexCapsAManAtTenOnSlope130AndAWomanAtTenOnSlope113)
 {
     ASSERT_EQ(HoleCap(CourseHandicap(kMaximumIndex, 130, k18)), 10);
     ASSERT_EQ(HoleCap(CourseHandicap(kMaximumIndexWomen, 113, k18)), 10);
-    EXPECT_EQ(AdjustedScore(120, CourseHandicap(kMaximumIndex, 130, k18), holes({12, 10, 11}, {4, 4, 5})), 117);
+    EXPECT_EQ(AdjustedScore(120, CourseHandicap(kMaximumIndex, 130, k18), holes({12, 10, 11}, {4, 4, 5})),
+              117);
 }
 
 TEST(AdjustedScore, CourseHandicap23LowersNineTenAndElevenOnParFoursBySix)
@@ -127,12 +129,9 @@ TEST(ComputeDifferential, PublishedExamples)
         {95, 71.5, 125, "21.2"}, // 21.244
         {69, 71.5, 125, "-2.3"}, // -2.26
         {88, 71.2, 125, "15.2"}, // 15.187
-        {68, 71.0, 113, "-3.0"},
-        {85, 72.0, 113, "13.0"},
-        {72, 71.6, 113, ".4"},
-        {72, 72.0, 130, ".0"},
-        {90, 70.2, 140, "16.0"}, // 15.98
-        {80, 70.0, 60, "18.8"},  // 18.8333
+        {68, 71.0, 113, "-3.0"}, {85, 72.0, 113, "13.0"}, {72, 71.6, 113, ".4"},
+        {72, 72.0, 130, ".0"},   {90, 70.2, 140, "16.0"}, // 15.98
+        {80, 70.0, 60, "18.8"},                           // 18.8333
     };
     for (const auto &row : table) {
         const float d = ComputeDifferential(qint16(row.adjusted), row.rating, row.slope, k18);
@@ -225,13 +224,14 @@ TEST_F(ScoreInputsFromDatabase, AdjustedScoreOfASavedRound)
     CourseSpec course;
     course.overallSlope = 113;
     addCourse(db(), course);
-    QVector<int> scores = {5, 5, 4, 6, 9, 5, 4, 5, 6, 5, 5, 4, 6, 5, 5, 4, 5, 8}; // a 9 on a par 4, an 8 on a par 5
+    QVector<int> scores = {5, 5, 4, 6, 9, 5, 4, 5, 6,
+                           5, 5, 4, 6, 5, 5, 4, 5, 8}; // a 9 on a par 4, an 8 on a par 5
     const qint64 index = roundWithHoles(scores);
     // course handicap 12: cap 7, so 9 -> 7 and 8 -> 7
     EXPECT_EQ(ComputeAdjustedScore(96, index, course.name, course.tees, QDate(2026, 5, 9), k18), 93);
 
-    const ScoreInputs in = LoadScoreInputs(db(), spec.last, spec.first, index, course.name, course.tees,
-                                           QDate(2026, 5, 9), k18);
+    const ScoreInputs in =
+        LoadScoreInputs(db(), spec.last, spec.first, index, course.name, course.tees, QDate(2026, 5, 9), k18);
     EXPECT_EQ(in.index, 12.4f);
     EXPECT_EQ(in.course.rating, 71.5);
     EXPECT_EQ(in.course.slope, 113);
@@ -240,7 +240,8 @@ TEST_F(ScoreInputsFromDatabase, AdjustedScoreOfASavedRound)
     EXPECT_EQ(*in.holes.at(4).par, 4);
 
     // a round of another day or tees finds no holes: nothing is reduced
-    EXPECT_EQ(ComputeAdjustedScore(96, index, course.name, QStringLiteral("Blue"), QDate(2026, 5, 9), k18), 96);
+    EXPECT_EQ(ComputeAdjustedScore(96, index, course.name, QStringLiteral("Blue"), QDate(2026, 5, 9), k18),
+              96);
     EXPECT_EQ(ComputeAdjustedScore(96, index, course.name, course.tees, QDate(2026, 5, 10), k18), 96);
 }
 

@@ -35,11 +35,12 @@ TEST_F(ComputeHandicapRun, WritesTheRecordTheMarksAndTheHandicap)
                             "Combined 9-hole rounds from 1/7/2026 and 1/8/2026",
                         }));
     // 18-hole rows: CombinedIndex not written, Details an empty text
-    EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT COUNT(*) FROM ScoringRecord WHERE CombinedIndex IS NULL "
-                                                "AND Details = '' AND CourseName <> 'Combined'")),
-              QStringList{"6"});
-    EXPECT_EQ(marks(), (QStringList{"1|N|1", "2|N|1", "3|N|1", "4|Y|1", "5|N|1", "6|N|1", "7|C|8", "8|C|7",
-                                    "9|E|1"}));
+    EXPECT_EQ(
+        columnValues(db(), QStringLiteral("SELECT COUNT(*) FROM ScoringRecord WHERE CombinedIndex IS NULL "
+                                          "AND Details = '' AND CourseName <> 'Combined'")),
+        QStringList{"6"});
+    EXPECT_EQ(marks(),
+              (QStringList{"1|N|1", "2|N|1", "3|N|1", "4|Y|1", "5|N|1", "6|N|1", "7|C|8", "8|C|7", "9|E|1"}));
     // (10.5 + 11.0) / 2 x 0.96 = 10.32
     EXPECT_EQ(storedHandicap().toDouble(), 10.3);
     EXPECT_EQ(display.panel, QStringLiteral("Handicap: 10.3"));
@@ -125,10 +126,12 @@ TEST_F(ComputeHandicapRun, CombinedDifferentialIsStoredAsItsOneDecimalValueAndFo
     EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT Used, ScoreIndex, CombinedIndex FROM ScoringRecord "
                                                 "WHERE CourseName = 'Combined'")),
               QStringList{QStringLiteral("Y|%1|%2").arg(back).arg(front)});
-    EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT Used, CombinedIndex FROM ScoreLog WHERE ScoreIndex IN (?, ?) "
-                                                "ORDER BY ScoreIndex"),
-                           {front, back}),
-              (QStringList{QStringLiteral("C|%1").arg(back), QStringLiteral("C|%1").arg(front)}));
+    EXPECT_EQ(
+        columnValues(db(),
+                     QStringLiteral("SELECT Used, CombinedIndex FROM ScoreLog WHERE ScoreIndex IN (?, ?) "
+                                    "ORDER BY ScoreIndex"),
+                     {front, back}),
+        (QStringList{QStringLiteral("C|%1").arg(back), QStringLiteral("C|%1").arg(front)}));
     // 8.3 x 0.96 = 7.968
     EXPECT_EQ(display.panel, QStringLiteral("Handicap: 7.9"));
 }
@@ -149,24 +152,30 @@ TEST_F(ComputeHandicapRun, WithoutEighteenHoleRoundsEveryRoundIsInThePeriod)
 
     ComputeHandicap();
 
-    EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT CombinedIndex, ScoreIndex FROM ScoringRecord ORDER BY Date")),
+    EXPECT_EQ(columnValues(
+                  db(), QStringLiteral("SELECT CombinedIndex, ScoreIndex FROM ScoringRecord ORDER BY Date")),
               (QStringList{"1|2", "3|4", "5|6"}));
 }
 
 TEST_F(ComputeHandicapRun, MarksBeforeThePeriodAreResetAndExcludedRowsKept)
 {
     addGolfer(db(), spec.last, spec.first, QStringLiteral("M"));
-    const qint64 oldest = addRoundOn(1, 30.0, QStringLiteral("18-holes"), QStringLiteral("A"), QStringLiteral("Y"));
-    const qint64 old = addRoundOn(2, 30.0, QStringLiteral("18-holes"), QStringLiteral("A"), QStringLiteral("n"));
-    const qint64 excluded = addRoundOn(3, 1.0, QStringLiteral("18-holes"), QStringLiteral("A"), QStringLiteral("E"));
-    Exec(db(), QStringLiteral("UPDATE ScoreLog SET CombinedIndex = 77 WHERE ScoreIndex IN (?, ?)"), {oldest, excluded});
+    const qint64 oldest =
+        addRoundOn(1, 30.0, QStringLiteral("18-holes"), QStringLiteral("A"), QStringLiteral("Y"));
+    const qint64 old =
+        addRoundOn(2, 30.0, QStringLiteral("18-holes"), QStringLiteral("A"), QStringLiteral("n"));
+    const qint64 excluded =
+        addRoundOn(3, 1.0, QStringLiteral("18-holes"), QStringLiteral("A"), QStringLiteral("E"));
+    Exec(db(), QStringLiteral("UPDATE ScoreLog SET CombinedIndex = 77 WHERE ScoreIndex IN (?, ?)"),
+         {oldest, excluded});
     for (int day = 4; day <= 23; ++day)
         addRoundOn(day, 20.0 + day / 10.0);
 
     ComputeHandicap();
 
-    EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT ScoreIndex, Used, CombinedIndex FROM ScoreLog "
-                                                "WHERE ScoreIndex IN (?, ?, ?) ORDER BY ScoreIndex"),
+    EXPECT_EQ(columnValues(db(),
+                           QStringLiteral("SELECT ScoreIndex, Used, CombinedIndex FROM ScoreLog "
+                                          "WHERE ScoreIndex IN (?, ?, ?) ORDER BY ScoreIndex"),
                            {oldest, old, excluded}),
               (QStringList{QStringLiteral("%1|N|1").arg(oldest), QStringLiteral("%1|N|1").arg(old),
                            QStringLiteral("%1|E|77").arg(excluded)}));
@@ -183,21 +192,27 @@ TEST_F(ComputeHandicapRun, OtherGolfersRowsAreLeftAlone)
     jack.first = QStringLiteral("Jack");
     jack.used = QStringLiteral("Y");
     const qint64 jacks = addRound(db(), jack);
-    Exec(db(), QStringLiteral("INSERT INTO ScoringRecord (LastName, FirstName, CourseName, Date, ScoreIndex, Score, "
-                              "Rating, Slope, Differential, Used, Details) "
-                              "VALUES ('Nicklaus', 'Jack', 'Pebble Creek', '2026-01-01', ?, 90, 71.5, 125, 16.6, 'Y', '')"),
+    Exec(db(),
+         QStringLiteral(
+             "INSERT INTO ScoringRecord (LastName, FirstName, CourseName, Date, ScoreIndex, Score, "
+             "Rating, Slope, Differential, Used, Details) "
+             "VALUES ('Nicklaus', 'Jack', 'Pebble Creek', '2026-01-01', ?, 90, 71.5, 125, 16.6, 'Y', '')"),
          {jacks});
     for (int day = 1; day <= 5; ++day)
         addRoundOn(day, 10.0 + day);
 
     ComputeHandicap();
 
-    EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT Used, CombinedIndex FROM ScoreLog WHERE ScoreIndex = ?"),
+    EXPECT_EQ(columnValues(db(),
+                           QStringLiteral("SELECT Used, CombinedIndex FROM ScoreLog WHERE ScoreIndex = ?"),
                            {jacks}),
               QStringList{"Y|1"});
-    EXPECT_EQ(columnValues(db(), QStringLiteral("SELECT ScoreIndex, Used FROM ScoringRecord WHERE LastName = 'Nicklaus'")),
-              QStringList{QStringLiteral("%1|Y").arg(jacks)});
-    EXPECT_EQ(Scalar(db(), QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = 'Nicklaus'")).toDouble(),
+    EXPECT_EQ(
+        columnValues(
+            db(), QStringLiteral("SELECT ScoreIndex, Used FROM ScoringRecord WHERE LastName = 'Nicklaus'")),
+        QStringList{QStringLiteral("%1|Y").arg(jacks)});
+    EXPECT_EQ(Scalar(db(), QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = 'Nicklaus'"))
+                  .toDouble(),
               4.4);
     EXPECT_EQ(storedHandicap().toDouble(), 10.5); // 11.0 x 0.96 = 10.56
 }
@@ -231,8 +246,9 @@ TEST_F(ComputeHandicapRun, RequeriesTheHeldScoreLogAndHandicapRow)
     LogGlobals &g = basLogGlobals();
     const Params golfer = {spec.last, spec.first};
     g.gScoreLog = std::make_unique<HeldRecordset>(
-        db(), QStringLiteral("SELECT ScoreIndex, Used FROM ScoreLog WHERE LastName = ? AND FirstName = ? "
-                             "ORDER BY ScoreIndex"),
+        db(),
+        QStringLiteral("SELECT ScoreIndex, Used FROM ScoreLog WHERE LastName = ? AND FirstName = ? "
+                       "ORDER BY ScoreIndex"),
         golfer);
     g.gHandicapLog = std::make_unique<HeldRecordset>(
         db(), QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer);
@@ -276,7 +292,8 @@ TEST_F(ComputeHandicapRun, WithoutAGolferRowSaysSoAndSetsThePanel)
     addRoundOn(4, 40.0);
     addRoundOn(5, 41.0);
     ComputeHandicap();
-    expectMessages(platform(), {QStringLiteral("Database Error: Unable to locate golfer's handicap record.")});
+    expectMessages(platform(),
+                   {QStringLiteral("Database Error: Unable to locate golfer's handicap record.")});
     EXPECT_EQ(display.panel, QStringLiteral("Handicap: 10.5"));
     EXPECT_TRUE(gender.asked.isEmpty());
 }
@@ -287,7 +304,8 @@ TEST_F(PublishHandicapStep, StoresTheDoubleNearestTheSinglesTextAndShowsIt)
 {
     addGolfer(db(), spec.last, spec.first, QStringLiteral("M"));
     PublishHandicap(8.8f);
-    EXPECT_EQ(Scalar(db(), QStringLiteral("SELECT COUNT(*) FROM HandicapLog WHERE Handicap = 8.8")).toInt(), 1);
+    EXPECT_EQ(Scalar(db(), QStringLiteral("SELECT COUNT(*) FROM HandicapLog WHERE Handicap = 8.8")).toInt(),
+              1);
     EXPECT_EQ(display.panel, QStringLiteral("Handicap: 8.8"));
     EXPECT_EQ(display.calculatorEnabled, std::optional<bool>(true));
 

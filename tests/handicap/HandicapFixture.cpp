@@ -34,21 +34,24 @@ qint64 HandicapFixture::addRoundOn(int day, double differential, const QString &
 
 QStringList HandicapFixture::record()
 {
-    return columnValues(db(),
-                        QStringLiteral("SELECT LastName, FirstName, CourseName, Date, ScoreIndex, CombinedIndex, "
-                                       "Score, Rating, Slope, Differential, Used, Details FROM ScoringRecord "
-                                       "WHERE LastName = ? AND FirstName = ? ORDER BY Date, ScoreIndex"),
-                        {basLogGlobals().gLastName, basLogGlobals().gFirstName});
+    return columnValues(
+        db(),
+        QStringLiteral("SELECT LastName, FirstName, CourseName, Date, ScoreIndex, CombinedIndex, "
+                       "Score, Rating, Slope, Differential, Used, Details FROM ScoringRecord "
+                       "WHERE LastName = ? AND FirstName = ? ORDER BY Date, ScoreIndex"),
+        {basLogGlobals().gLastName, basLogGlobals().gFirstName});
 }
 
 QStringList HandicapFixture::marks()
 {
-    return columnValues(db(), QStringLiteral("SELECT ScoreIndex, Used, CombinedIndex FROM ScoreLog ORDER BY ScoreIndex"));
+    return columnValues(
+        db(), QStringLiteral("SELECT ScoreIndex, Used, CombinedIndex FROM ScoreLog ORDER BY ScoreIndex"));
 }
 
 QVariant HandicapFixture::storedHandicap()
 {
-    return Scalar(db(), QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
+    return Scalar(db(),
+                  QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
                   {basLogGlobals().gLastName, basLogGlobals().gFirstName});
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Fixtures.h"
 #include "EngineDoubles.h"
-#include "TestPrinting.h"
+#include "Fixtures.h"
 #include "TestApp.h"
+#include "TestPrinting.h"
 
 #include <gtest/gtest.h>
 #include <memory>

@@ -25,7 +25,6 @@ protected:
                 columnValues(db(), QStringLiteral("SELECT * FROM ScoreLog ORDER BY ScoreIndex")),
                 columnValues(db(), QStringLiteral("SELECT * FROM HandicapLog"))};
     }
-
 };
 
 TEST_F(HandicapTransaction, DivisionByZeroLeavesThePreviousRecordMarksAndHandicap)
@@ -38,7 +37,8 @@ TEST_F(HandicapTransaction, DivisionByZeroLeavesThePreviousRecordMarksAndHandica
     ComputeHandicap();
     // seven scores, two used: the pair 10.3 and 13.0; 11.65 x 0.96 = 11.184
     ASSERT_EQ(display.panel, QStringLiteral("Handicap: 11.1"));
-    ASSERT_EQ(Scalar(db(), QStringLiteral("SELECT COUNT(*) FROM ScoreLog WHERE Used IN ('Y', 'C')")).toInt(), 3);
+    ASSERT_EQ(Scalar(db(), QStringLiteral("SELECT COUNT(*) FROM ScoreLog WHERE Used IN ('Y', 'C')")).toInt(),
+              3);
 
     // Stored with more digits than a single keeps: no value the scan holds finds these rows again,
     // and with ten scores they are the three lowest.

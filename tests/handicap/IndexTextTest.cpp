@@ -1,6 +1,6 @@
-#include "handicap/Handicap.h"
 #include "handicap/IndexText.h"
 #include "core/QuillonError.h"
+#include "handicap/Handicap.h"
 
 #include "TestPrinting.h"
 
@@ -16,9 +16,9 @@ struct ScoresToCount {
 };
 
 const ScoresToCount kUsedTable[] = {
-    {0, 0},   {1, 0},   {2, 0},   {3, 0},   {4, 0},   {5, 1},   {6, 1},   {7, 2},   {8, 2},
-    {9, 3},   {10, 3},  {11, 4},  {12, 4},  {13, 5},  {14, 5},  {15, 6},  {16, 6},  {17, 7},
-    {18, 8},  {19, 9},  {20, 10}, {21, 10}, {22, 10}, {23, 10}, {24, 10}, {25, 10},
+    {0, 0},  {1, 0},  {2, 0},   {3, 0},   {4, 0},   {5, 1},   {6, 1},   {7, 2},   {8, 2},
+    {9, 3},  {10, 3}, {11, 4},  {12, 4},  {13, 5},  {14, 5},  {15, 6},  {16, 6},  {17, 7},
+    {18, 8}, {19, 9}, {20, 10}, {21, 10}, {22, 10}, {23, 10}, {24, 10}, {25, 10},
 };
 
 } // namespace
@@ -35,9 +35,8 @@ TEST(IndexTextCut, TruncatesTheTextToOneDecimal)
         const char *text;
         const char *cut;
     } table[] = {
-        {"8.832", "8.8"}, {"12", "12.0"},   {"12.", "12.0"},   {"0.48", "0.4"},
-        {"-1.23", "-1.2"}, {"-0.48", "-0.4"}, {"14.592", "14.5"}, {"8.8", "8.8"},
-        {"36.49999", "36.4"},
+        {"8.832", "8.8"},  {"12", "12.0"},     {"12.", "12.0"}, {"0.48", "0.4"},      {"-1.23", "-1.2"},
+        {"-0.48", "-0.4"}, {"14.592", "14.5"}, {"8.8", "8.8"},  {"36.49999", "36.4"},
     };
     for (const auto &row : table)
         EXPECT_EQ(IndexText::CutToOneDecimal(QString::fromLatin1(row.text)), QString::fromLatin1(row.cut))
@@ -51,11 +50,22 @@ TEST(IndexTextFromProduct, ProductsBecomeTheShownText)
         double product;
         const char *shown;
     } table[] = {
-        {8.832, "8.8"},  {12.0, "12.0"}, {0.48, ".4"},     {8.7999999999999998, "8.8"},
-        {-1.23, "-1.2"}, {-0.48, "-.4"}, {14.592, "14.5"}, {0.0, ".0"},
-        {36.49, "36.4"}, {8.8499999, "8.8"}, {100.96, "100.9"},
+        {8.832, "8.8"},
+        {12.0, "12.0"},
+        {0.48, ".4"},
+        {8.7999999999999998, "8.8"},
+        {-1.23, "-1.2"},
+        {-0.48, "-.4"},
+        {14.592, "14.5"},
+        {0.0, ".0"},
+        {36.49, "36.4"},
+        {8.8499999, "8.8"},
+        {100.96, "100.9"},
         // Leftovers of a sum that cancels out (-0.1 and 0.1) are zero, not a digit of their exponent form.
-        {-7.15255737304688e-10, ".0"}, {3.0e-5, ".0"}, {-0.00009, ".0"}, {0.0001, ".0"},
+        {-7.15255737304688e-10, ".0"},
+        {3.0e-5, ".0"},
+        {-0.00009, ".0"},
+        {0.0001, ".0"},
     };
     for (const auto &row : table)
         EXPECT_EQ(IndexText::FromProduct(row.product), QString::fromLatin1(row.shown)) << row.product;

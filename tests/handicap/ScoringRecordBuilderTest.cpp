@@ -65,7 +65,7 @@ TEST(ScoringRecordBuilder, CombinedRowAddsTheTwoRoundsAndTakesThePartnersDateAnd
     EXPECT_EQ(c.combinedIndex.toLongLong(), 7);
     EXPECT_EQ(c.score.toLongLong(), 91);
     EXPECT_EQ(c.rating.toDouble(), 71.5);
-    EXPECT_EQ(c.slope.toLongLong(), 124); // 124.5 truncated
+    EXPECT_EQ(c.slope.toLongLong(), 124);      // 124.5 truncated
     EXPECT_EQ(c.differential.toDouble(), 8.3); // not 8.299999999999999
     EXPECT_EQ(c.used, QStringLiteral("N"));
     EXPECT_EQ(c.details, QStringLiteral("Combined 9-hole rounds from 3/5/2026 and 3/12/2026"));

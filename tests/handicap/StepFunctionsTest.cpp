@@ -13,10 +13,11 @@ float runStepByStep(Connection &c)
 {
     BuildScoringRecord();
     const LogGlobals &g = basLogGlobals();
-    Recordset records = Query(c,
-                              QStringLiteral("SELECT * FROM ScoringRecord WHERE LastName = ? AND FirstName = ? "
-                                             "ORDER BY Date, ScoreIndex"),
-                              {g.gLastName, g.gFirstName});
+    Recordset records =
+        Query(c,
+              QStringLiteral("SELECT * FROM ScoringRecord WHERE LastName = ? AND FirstName = ? "
+                             "ORDER BY Date, ScoreIndex"),
+              {g.gLastName, g.gFirstName});
     const int scores = records.rowCount();
     qint16 count = DifferentialsUsed(scores);
     if (scores >= 1)
@@ -33,16 +34,20 @@ protected:
     // Rounds of every kind, with ties of date, excluded rounds and rounds without a Type.
     void addRandomRounds(std::mt19937 &rng, const RoundSpec &golfer, int rounds)
     {
-        std::uniform_int_distribution<int> day(1, 40), kind(0, 3), type(0, 9), tenths(-50, 450), adjusted(36, 110),
-            slope(100, 140), excluded(0, 9);
+        std::uniform_int_distribution<int> day(1, 40), kind(0, 3), type(0, 9), tenths(-50, 450),
+            adjusted(36, 110), slope(100, 140), excluded(0, 9);
         for (int i = 0; i < rounds; ++i) {
             RoundSpec r = golfer;
             r.date = dayOf(day(rng));
             const int k = kind(rng);
-            r.holes = k < 2 ? QStringLiteral("18-holes") : k == 2 ? QStringLiteral("9-holes (front)")
-                                                                   : QStringLiteral("9-holes (back)");
+            r.holes = k < 2    ? QStringLiteral("18-holes")
+                      : k == 2 ? QStringLiteral("9-holes (front)")
+                               : QStringLiteral("9-holes (back)");
             const int t = type(rng);
-            r.type = t == 0 ? QString() : t < 4 ? QStringLiteral("A") : t < 7 ? QStringLiteral("H") : QStringLiteral("T");
+            r.type = t == 0  ? QString()
+                     : t < 4 ? QStringLiteral("A")
+                     : t < 7 ? QStringLiteral("H")
+                             : QStringLiteral("T");
             r.differential = tenths(rng) / 10.0;
             r.adjusted = adjusted(rng);
             r.rating = 30.0 + tenths(rng) / 10.0;
@@ -57,9 +62,9 @@ protected:
     {
         std::uniform_int_distribution<int> pick(0, 4);
         const QStringList used = {"N", "Y", "C", "n", "N"};
-        const QStringList indexes =
-            columnValues(db(), QStringLiteral("SELECT ScoreIndex FROM ScoreLog WHERE LastName = ? AND Used <> 'E'"),
-                         {spec.last});
+        const QStringList indexes = columnValues(
+            db(), QStringLiteral("SELECT ScoreIndex FROM ScoreLog WHERE LastName = ? AND Used <> 'E'"),
+            {spec.last});
         for (const QString &index : indexes) {
             const int p = pick(rng);
             Exec(db(), QStringLiteral("UPDATE ScoreLog SET Used = ?, CombinedIndex = ? WHERE ScoreIndex = ?"),

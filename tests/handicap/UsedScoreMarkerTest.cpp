@@ -55,8 +55,8 @@ TEST(LowestDifferentials, EntriesTheScanNeverFillsStayZeroAndCountZeroIsEmpty)
 
 TEST(UsedScoreMarkerMark, EqualValuesMarkTheNewestRowsFirst)
 {
-    QVector<RecordRow> rows = {row(1, "2026-01-01", 15.0), row(2, "2026-01-02", 15.0), row(5, "2026-01-02", 15.0),
-                               row(3, "2026-01-03", 16.0)};
+    QVector<RecordRow> rows = {row(1, "2026-01-01", 15.0), row(2, "2026-01-02", 15.0),
+                               row(5, "2026-01-02", 15.0), row(3, "2026-01-03", 16.0)};
     const QVector<LogMark> marks = UsedScoreMarker::Mark({15.0f, 15.0f}, rows, everyRound);
     EXPECT_EQ(usedOf(rows), (QStringList{"N", "Y", "Y", "N"}));
     ASSERT_EQ(marks.size(), 2);
@@ -69,8 +69,8 @@ TEST(UsedScoreMarkerMark, EqualValuesMarkTheNewestRowsFirst)
 TEST(UsedScoreMarkerMark, AValueWithoutItsStoredRowMarksNothing)
 {
     QVector<RecordRow> rows = {row(1, "2026-01-01", 10.123456789), row(2, "2026-01-02", 12.0)};
-    const QVector<LogMark> marks =
-        UsedScoreMarker::Mark(UsedScoreMarker::LowestDifferentials(1, {10.123456789f, 12.0f}), rows, everyRound);
+    const QVector<LogMark> marks = UsedScoreMarker::Mark(
+        UsedScoreMarker::LowestDifferentials(1, {10.123456789f, 12.0f}), rows, everyRound);
     EXPECT_EQ(usedOf(rows), (QStringList{"N", "N"}));
     EXPECT_TRUE(marks.isEmpty());
 }

@@ -141,7 +141,8 @@ TEST_F(HandicapComputation, DifferentialsThatCancelGiveZeroInEitherOrder)
     EXPECT_EQ(usedColumn(), (QStringList{"Y", "N", "N", "Y", "N", "N", "N"}));
     expectHandicap(0.0, QStringLiteral("Handicap: .0"));
 
-    Exec(db(), QStringLiteral("UPDATE ScoreLog SET Differential = -Differential WHERE Differential IN (-0.1, 0.1)"));
+    Exec(db(), QStringLiteral(
+                   "UPDATE ScoreLog SET Differential = -Differential WHERE Differential IN (-0.1, 0.1)"));
     ComputeHandicap();
     expectHandicap(0.0, QStringLiteral("Handicap: .0"));
 }

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 #include <cstdlib>
+#include <cstring>
 
 namespace quillon::test::model {
 
@@ -205,32 +205,22 @@ int DifferentialsUsed(int scores)
     if (scores >= 20)
         return 10;
     switch (scores) {
-    case 19:
-        return 9;
-    case 18:
-        return 8;
-    case 17:
-        return 7;
+    case 19: return 9;
+    case 18: return 8;
+    case 17: return 7;
     case 16:
-    case 15:
-        return 6;
+    case 15: return 6;
     case 14:
-    case 13:
-        return 5;
+    case 13: return 5;
     case 12:
-    case 11:
-        return 4;
+    case 11: return 4;
     case 10:
-    case 9:
-        return 3;
+    case 9: return 3;
     case 8:
-    case 7:
-        return 2;
+    case 7: return 2;
     case 6:
-    case 5:
-        return 1;
-    default:
-        return 0;
+    case 5: return 1;
+    default: return 0;
     }
 }
 

@@ -45,7 +45,8 @@ protected:
     }
     double storedHandicap()
     {
-        return Scalar(app.db(), QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
+        return Scalar(app.db(),
+                      QStringLiteral("SELECT Handicap FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
                       {QStringLiteral("O'Brien"), QStringLiteral("Pat")})
             .toDouble();
     }
@@ -100,10 +101,12 @@ TEST_F(HandicapOnFrame, GolferWithoutGenderIsAskedThroughTheDialogOnceAndCappedB
     answerGenderDialog("optFemale", &instructions, &asked);
     ComputeHandicap();
     EXPECT_EQ(asked, 1);
-    EXPECT_EQ(instructions, QStringLiteral("Please indicate the gender of golfer Pat O'Brien.  This information is "
-                                           "needed for the handicap calculations."));
+    EXPECT_EQ(instructions,
+              QStringLiteral("Please indicate the gender of golfer Pat O'Brien.  This information is "
+                             "needed for the handicap calculations."));
     EXPECT_EQ(panelText(), QStringLiteral("Handicap: 40.4"));
-    EXPECT_EQ(Scalar(app.db(), QStringLiteral("SELECT Gender FROM HandicapLog")).toString(), QStringLiteral("F"));
+    EXPECT_EQ(Scalar(app.db(), QStringLiteral("SELECT Gender FROM HandicapLog")).toString(),
+              QStringLiteral("F"));
 
     ComputeHandicap(); // the stored answer holds: no second question
     EXPECT_EQ(asked, 1);

@@ -1,5 +1,5 @@
-#include "TestApp.h"
 #include "shell/MDIForm1.h"
+#include "TestApp.h"
 #include "shell/ToolbarIcons.h"
 
 #include <QAction>
@@ -239,7 +239,7 @@ TEST_F(MDIForm1Test, EveryItemIsFoundByItsName)
 
 TEST_F(MDIForm1Test, SubMenusAreMenusOfTheirName)
 {
-    const QStringList subMenus = {"mnuFile", "mnuFileNew",       "mnuFilePrint",   "mnuEdit", "mnuView",
+    const QStringList subMenus = {"mnuFile",  "mnuFileNew",       "mnuFilePrint",   "mnuEdit", "mnuView",
                                   "mnuTools", "mnuToolsDatabase", "mnuToolsDelete", "mnuHelp", "mnuScoreLog"};
     for (const QString &name : subMenus) {
         QMenu *menu = frame.menu(name);
@@ -460,8 +460,9 @@ TEST_F(MDIForm1Test, DatabaseMissingLeavesOnlyRestoreHelpAndExit)
 
     const auto shown = app.platform().takeMessages();
     ASSERT_EQ(shown.size(), 1);
-    EXPECT_EQ(shown[0].text, "Unable to locate the Quillon database.  You must restore your backup database or "
-                             "re-install Quillon for Golf.");
+    EXPECT_EQ(shown[0].text,
+              "Unable to locate the Quillon database.  You must restore your backup database or "
+              "re-install Quillon for Golf.");
     EXPECT_EQ(shown[0].icon, MsgIcon::Critical);
     EXPECT_EQ(shown[0].title, "Quillon for Golf -- Missing Component");
     EXPECT_EQ(shown[0].buttons, MsgButtons::OK);

@@ -1,8 +1,8 @@
+#include "shell/Startup.h"
 #include "Fixtures.h"
 #include "TestApp.h"
 #include "shell/MDIForm1.h"
 #include "shell/SingleInstance.h"
-#include "shell/Startup.h"
 
 #include <QApplication>
 #include <QCryptographicHash>
@@ -22,22 +22,23 @@ using namespace quillon::test;
 
 namespace {
 
-const QString kMissing = QStringLiteral(
-    "Unable to locate the Quillon database.  You must restore your backup database or re-install Quillon for Golf.");
+const QString kMissing = QStringLiteral("Unable to locate the Quillon database.  You must restore your "
+                                        "backup database or re-install Quillon for Golf.");
 
 // Names, sizes, times and contents of every file in a directory.
 QStringList snapshot(const QString &dir)
 {
     QStringList out;
-    for (const QFileInfo &fi : QDir(dir).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot,
-                                                        QDir::Name)) {
+    for (const QFileInfo &fi :
+         QDir(dir).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name)) {
         QFile f(fi.filePath());
         f.open(QIODevice::ReadOnly);
         out << QStringLiteral("%1 %2 %3 %4")
                    .arg(fi.fileName())
                    .arg(fi.size())
                    .arg(fi.lastModified().toMSecsSinceEpoch())
-                   .arg(QString::fromLatin1(QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha1).toHex()));
+                   .arg(QString::fromLatin1(
+                       QCryptographicHash::hash(f.readAll(), QCryptographicHash::Sha1).toHex()));
     }
     return out;
 }
@@ -211,13 +212,14 @@ TEST_F(Startup, UnreadableDatabaseEndsTheProgram)
 
 TEST_F(Startup, CommandLineArgumentsChangeNothing)
 {
-    for (const QString &args : {QString(), QStringLiteral("-h"), QStringLiteral("-x"), QStringLiteral("-x -y z")}) {
+    for (const QString &args :
+         {QString(), QStringLiteral("-h"), QStringLiteral("-x"), QStringLiteral("-x -y z")}) {
         app.layDatabase();
         EXPECT_EQ(start(args), StartupOutcome::ChoosingGolfer) << args.toStdString();
         EXPECT_EQ(basLogGlobals().gCommandString, QStringLiteral("-h"));
         MDIForm1 &f = MDIForm1::instance();
-        for (const char *item : {"mnuToolsCourseHdcpCalculator", "mnuViewUsed", "mnuViewScoringRecord",
-                                 "mnuPrintScoringRecord"})
+        for (const char *item :
+             {"mnuToolsCourseHdcpCalculator", "mnuViewUsed", "mnuViewScoringRecord", "mnuPrintScoringRecord"})
             EXPECT_TRUE(f.menuItem(QString::fromLatin1(item))->isVisible()) << item;
         EXPECT_FALSE(f.panel(QStringLiteral("Handicap"))->isHidden());
         MDIForm1::unload();
@@ -320,7 +322,8 @@ TEST_F(Startup, LockOfACrashedRunIsTakenOver)
     ASSERT_TRUE(waitFor([&] { return !QFile::exists(app.file(QStringLiteral("Update.qdl"))); }));
     QThread::msleep(300);
     first.crash();
-    ASSERT_TRUE(QFile::exists(app.file(SingleInstance::defaultLockName()))) << "the crash leaves its lock file";
+    ASSERT_TRUE(QFile::exists(app.file(SingleInstance::defaultLockName())))
+        << "the crash leaves its lock file";
     EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
     EXPECT_TRUE(app.platform().messages().isEmpty());
     // And now this run is the one that refuses others.

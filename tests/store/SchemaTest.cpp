@@ -12,9 +12,8 @@ namespace {
 QStringList columnsOf(Connection &c, const QString &table)
 {
     QStringList names;
-    for (const QSqlRecord &r : Query(c, QStringLiteral("SELECT name FROM pragma_table_info(?) ORDER BY cid"),
-                                     {table})
-                                   .rows())
+    for (const QSqlRecord &r :
+         Query(c, QStringLiteral("SELECT name FROM pragma_table_info(?) ORDER BY cid"), {table}).rows())
         names << r.value(0).toString();
     return names;
 }
@@ -29,8 +28,9 @@ struct TableColumns {
 TEST(Schema, HasExactlyTheEightTables)
 {
     TestApp app;
-    QStringList tables = columnValues(app.db(), QStringLiteral("SELECT name FROM sqlite_master WHERE type = "
-                                                               "'table' AND name NOT LIKE 'sqlite_%' ORDER BY name"));
+    QStringList tables =
+        columnValues(app.db(), QStringLiteral("SELECT name FROM sqlite_master WHERE type = "
+                                              "'table' AND name NOT LIKE 'sqlite_%' ORDER BY name"));
     EXPECT_EQ(tables, (QStringList{"CourseDetails", "CourseLog", "DBVersion", "HandicapLog", "ScoreDetails",
                                    "ScoreLog", "ScoringRecord", "UnratedTees"}));
 }
@@ -41,15 +41,16 @@ TEST(Schema, ColumnsStandInTheirOrder)
     const TableColumns expected[] = {
         {"HandicapLog", {"LastName", "FirstName", "Gender", "Handicap", "HomeCourseName"}},
         {"ScoreLog",
-         {"LastName", "FirstName", "CourseName", "Tees", "Date", "ScoreIndex", "Holes", "Score", "AdjustedScore",
-          "Rating", "Slope", "Type", "Differential", "Used", "Details", "Penalties", "LostBalls", "Bunkers",
-          "SandSaves", "AttemptedSaves", "CombinedIndex"}},
+         {"LastName",     "FirstName",      "CourseName",    "Tees",      "Date",      "ScoreIndex",
+          "Holes",        "Score",          "AdjustedScore", "Rating",    "Slope",     "Type",
+          "Differential", "Used",           "Details",       "Penalties", "LostBalls", "Bunkers",
+          "SandSaves",    "AttemptedSaves", "CombinedIndex"}},
         {"ScoreDetails",
-         {"LastName", "FirstName", "CourseName", "Tees", "Date", "ScoreIndex", "Hole", "Score", "Putts", "PAR",
-          "Fairway", "GreenInRegulation"}},
+         {"LastName", "FirstName", "CourseName", "Tees", "Date", "ScoreIndex", "Hole", "Score", "Putts",
+          "PAR", "Fairway", "GreenInRegulation"}},
         {"ScoringRecord",
-         {"LastName", "FirstName", "CourseName", "Date", "ScoreIndex", "CombinedIndex", "Score", "Rating", "Slope",
-          "Differential", "Used", "Details"}},
+         {"LastName", "FirstName", "CourseName", "Date", "ScoreIndex", "CombinedIndex", "Score", "Rating",
+          "Slope", "Differential", "Used", "Details"}},
         {"CourseLog",
          {"CourseName", "Tees", "OverallRating", "FrontRating", "BackRating", "OverallSlope", "FrontSlope",
           "BackSlope", "YardsIn", "YardsOut", "TotalYards", "ParIn", "ParOut", "TotalPar"}},
@@ -113,6 +114,7 @@ TEST(Schema, OneDecimalValuesCompareEqualToTheirText)
     RoundSpec r;
     r.differential = QStringLiteral("8.3").toDouble();
     addRound(app.db(), r);
-    EXPECT_EQ(columnValues(app.db(), QStringLiteral("SELECT COUNT(*) FROM ScoreLog WHERE Differential = 8.3")),
-              QStringList{"1"});
+    EXPECT_EQ(
+        columnValues(app.db(), QStringLiteral("SELECT COUNT(*) FROM ScoreLog WHERE Differential = 8.3")),
+        QStringList{"1"});
 }

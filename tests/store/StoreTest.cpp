@@ -31,10 +31,11 @@ TEST(Database, ApostropheNamesAreWrittenAndReadBack)
 {
     TestApp app;
     addGolfer(app.db(), QStringLiteral("O'Brien"), QStringLiteral("Seán"), QStringLiteral("M"));
-    const auto rs = OpenRecordset(app.db(),
-                                  QStringLiteral("SELECT LastName, FirstName, Gender, Handicap FROM HandicapLog "
-                                                 "WHERE LastName = ? AND FirstName = ?"),
-                                  {QStringLiteral("O'Brien"), QStringLiteral("Seán")});
+    const auto rs =
+        OpenRecordset(app.db(),
+                      QStringLiteral("SELECT LastName, FirstName, Gender, Handicap FROM HandicapLog "
+                                     "WHERE LastName = ? AND FirstName = ?"),
+                      {QStringLiteral("O'Brien"), QStringLiteral("Seán")});
     ASSERT_TRUE(rs.has_value());
     ASSERT_EQ(rs->rowCount(), 1);
     EXPECT_EQ(rs->value("LastName").toString(), QStringLiteral("O'Brien"));
@@ -47,10 +48,11 @@ TEST(Database, ApostropheNamesAreWrittenAndReadBack)
     r.first = QStringLiteral("Seán");
     r.course = QStringLiteral("St. Andrew's");
     addRound(app.db(), r);
-    EXPECT_EQ(columnValues(app.db(),
-                           QStringLiteral("SELECT CourseName FROM ScoreLog WHERE LastName = ? AND FirstName = ?"),
-                           {r.last, r.first}),
-              QStringList{"St. Andrew's"});
+    EXPECT_EQ(
+        columnValues(app.db(),
+                     QStringLiteral("SELECT CourseName FROM ScoreLog WHERE LastName = ? AND FirstName = ?"),
+                     {r.last, r.first}),
+        QStringList{"St. Andrew's"});
 }
 
 TEST(Database, EmptyTableIsAtBothEndsAtOnce)
@@ -185,7 +187,8 @@ TEST(Database, TransactionNotCommittedLeavesNothing)
         addGolfer(app.db(), QStringLiteral("Kept"), QStringLiteral("Row"));
         t.commit();
     }
-    EXPECT_EQ(columnValues(app.db(), QStringLiteral("SELECT LastName FROM HandicapLog")), QStringList{"Kept"});
+    EXPECT_EQ(columnValues(app.db(), QStringLiteral("SELECT LastName FROM HandicapLog")),
+              QStringList{"Kept"});
 }
 
 TEST(Database, InnerUnitIsUndoneAloneAndKeptWithTheOuterOne)
@@ -205,8 +208,9 @@ TEST(Database, InnerUnitIsUndoneAloneAndKeptWithTheOuterOne)
         }
         outer.commit();
     }
-    EXPECT_EQ(columnValues(app.db(), QStringLiteral("SELECT LastName || FirstName FROM HandicapLog ORDER BY 1")),
-              (QStringList{"InnerC", "OuterA"}));
+    EXPECT_EQ(
+        columnValues(app.db(), QStringLiteral("SELECT LastName || FirstName FROM HandicapLog ORDER BY 1")),
+        (QStringList{"InnerC", "OuterA"}));
 }
 
 TEST(Database, CommittedDataLivesInTheFileItself)
@@ -214,7 +218,8 @@ TEST(Database, CommittedDataLivesInTheFileItself)
     TestApp app;
     addGolfer(app.db(), QStringLiteral("Whole"), QStringLiteral("File"));
     // No write-ahead log: a copy of the file alone holds every committed row.
-    EXPECT_EQ(Scalar(app.db(), QStringLiteral("PRAGMA journal_mode")).toString().toLower(), QStringLiteral("delete"));
+    EXPECT_EQ(Scalar(app.db(), QStringLiteral("PRAGMA journal_mode")).toString().toLower(),
+              QStringLiteral("delete"));
     const QString copy = app.file(QStringLiteral("Copy.qdl"));
     ASSERT_TRUE(QFile::copy(app.file(QStringLiteral("Quillon.qdl")), copy));
     auto other = OpenDatabase(copy);

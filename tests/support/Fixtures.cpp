@@ -6,7 +6,8 @@
 
 namespace quillon::test {
 
-void addGolfer(Connection &c, const QString &last, const QString &first, const QString &gender, double handicap)
+void addGolfer(Connection &c, const QString &last, const QString &first, const QString &gender,
+               double handicap)
 {
     Exec(c,
          QStringLiteral("INSERT INTO HandicapLog (LastName, FirstName, Gender, Handicap, HomeCourseName) "
@@ -35,23 +36,25 @@ void addCourse(Connection &c, const CourseSpec &s)
 qint64 addRound(Connection &c, const RoundSpec &r)
 {
     Exec(c,
-         QStringLiteral("INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
-                        "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, LostBalls, "
-                        "Bunkers, SandSaves, AttemptedSaves, CombinedIndex) "
-                        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, -1, -1, -1, -1, -1, 1)"),
+         QStringLiteral(
+             "INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
+             "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, LostBalls, "
+             "Bunkers, SandSaves, AttemptedSaves, CombinedIndex) "
+             "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, -1, -1, -1, -1, -1, 1)"),
          {r.last, r.first, r.course, r.tees, IsoDate(r.date), r.holes, r.score, r.adjusted, r.rating, r.slope,
           r.type.isEmpty() ? QVariant() : QVariant(r.type), r.differential, r.used, r.details ? 1 : 0});
     return LastInsertId(c);
 }
 
-void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole, const QVector<int> &scores,
-                   const QVector<int> &pars)
+void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole,
+                   const QVector<int> &scores, const QVector<int> &pars)
 {
     for (int i = 0; i < scores.size(); ++i)
         Exec(c,
-             QStringLiteral("INSERT INTO ScoreDetails (LastName, FirstName, CourseName, Tees, Date, ScoreIndex, "
-                            "Hole, Score, Putts, PAR, Fairway, GreenInRegulation) "
-                            "VALUES (?, ?, ?, ?, ?, ?, ?, ?, 2, ?, -1, 0)"),
+             QStringLiteral(
+                 "INSERT INTO ScoreDetails (LastName, FirstName, CourseName, Tees, Date, ScoreIndex, "
+                 "Hole, Score, Putts, PAR, Fairway, GreenInRegulation) "
+                 "VALUES (?, ?, ?, ?, ?, ?, ?, ?, 2, ?, -1, 0)"),
              {r.last, r.first, r.course, r.tees, IsoDate(r.date), scoreIndex, firstHole + i, scores.at(i),
               pars.at(i)});
 }

@@ -48,8 +48,7 @@ std::unique_ptr<QPagedPaintDevice> ScriptedPlatform::openPrinter(const QString &
 {
     if (printerName.isEmpty())
         return nullptr;
-    const QString path =
-        QDir(m_appDir).filePath(QStringLiteral("printed-%1.pdf").arg(m_printed.size() + 1));
+    const QString path = QDir(m_appDir).filePath(QStringLiteral("printed-%1.pdf").arg(m_printed.size() + 1));
     m_printed << path;
     auto writer = std::make_unique<QPdfWriter>(path);
     writer->setTitle(documentName);

@@ -46,8 +46,8 @@ Connection &TestApp::db()
 void TestApp::layDatabase(const QString &name)
 {
     QFile::remove(file(name));
-    ASSERT_TRUE(QFile::copy(shippedDatabase(), file(name))) << "no shipped database at "
-                                                            << shippedDatabase().toStdString();
+    ASSERT_TRUE(QFile::copy(shippedDatabase(), file(name)))
+        << "no shipped database at " << shippedDatabase().toStdString();
     QFile::setPermissions(file(name), QFile::ReadOwner | QFile::WriteOwner);
 }
 
