@@ -148,6 +148,22 @@ TEST_F(Startup, FreshInstallTakesTheUpdateFileOverAndStandsReadyForAGolfer)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass is off";
 }
 
+TEST_F(Startup, UpdateFileBesideAnExistingDatabaseLeavesTheUsersDataWhole)
+{
+    app.layDatabase();
+    {
+        auto c = OpenDatabase(app.file(QStringLiteral("Quillon.qdl")));
+        ASSERT_NE(c, nullptr);
+        addGolfer(*c, QStringLiteral("O'Brien"), QStringLiteral("Pat"));
+    }
+    app.layDatabase(QStringLiteral("Update.qdl"));
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    // The user's database stays the working one, with its rows; nothing is thrown away.
+    EXPECT_EQ(columnValues(*basLogGlobals().gConnection, QStringLiteral("SELECT LastName FROM HandicapLog")),
+              QStringList{"O'Brien"});
+    EXPECT_TRUE(app.platform().messages().isEmpty());
+}
+
 TEST_F(Startup, NoDatabaseShowsTheMissingMessageAndLocksTheFrame)
 {
     EXPECT_EQ(start(), StartupOutcome::Locked);
