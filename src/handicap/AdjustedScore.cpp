@@ -1,5 +1,6 @@
 #include "AdjustedScore.h"
 
+#include "MaximumIndex.h"
 #include "core/Convert.h"
 #include "core/DateText.h"
 #include "core/Format.h"
@@ -103,7 +104,7 @@ float IndexForAdjustment(Connection &c, const QString &last, const QString &firs
     const QVariant handicap = golfer.value(0);
     if (!handicap.isNull() && float(handicap.toDouble()) != -1000.0f)
         return float(handicap.toDouble());
-    return golfer.value(1).toString() == QLatin1String("F") ? kMaximumIndexWomen : kMaximumIndex;
+    return MaximumIndex(golfer.value(1).toString());
 }
 
 std::optional<RatingSlope> CourseRatingSlope(Connection &c, const QString &course, const QString &tees,

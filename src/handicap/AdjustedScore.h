@@ -13,9 +13,6 @@ namespace quillon {
 
 // The standard Slope Rating, in both formulas as a whole number.
 inline constexpr int kStandardSlope = 113;
-// The index of a golfer who has none yet, by gender.
-inline constexpr float kMaximumIndex = 36.4f;
-inline constexpr float kMaximumIndexWomen = 40.4f;
 
 // Which rating and slope of the tees a round uses.
 enum class HolesPlayed { Eighteen, Front, Back, Other };

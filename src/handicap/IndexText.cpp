@@ -1,5 +1,6 @@
 #include "IndexText.h"
 
+#include "MaximumIndex.h"
 #include "core/Convert.h"
 #include "core/Format.h"
 #include "core/NumberText.h"
@@ -50,14 +51,9 @@ QString FromSum(float sum, int count)
 
 QString Capped(const QString &text, const QString &gender)
 {
-    const double number = Val(text);
-    if (gender == QLatin1String("F")) {
-        if (number > kWomensCap)
-            return QStringLiteral("40.4");
-    } else if (number > kCap) {
-        return QStringLiteral("36.4");
-    }
-    return text;
+    // Strictly above the cap only: a value equal to it stays as it is.
+    const QString cap = MaximumIndexText(gender);
+    return Val(text) > Val(cap) ? cap : text;
 }
 
 float Value(const QString &text)

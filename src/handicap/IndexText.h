@@ -10,8 +10,6 @@ namespace quillon {
 namespace IndexText {
 
 inline constexpr double kMultiplier = 0.96;
-inline constexpr double kWomensCap = 40.4;
-inline constexpr double kCap = 36.4;
 
 // The running sum of the differentials in single precision, rounded after every addition.
 float SumOfDifferentials(const QVector<double> &differentials);

@@ -34,7 +34,6 @@ public:
         if (m_pos >= 0)
             --m_pos;
     }
-    void move(int index) { m_pos = index; }
 
     int columnCount() const { return m_columns.count(); }
     QString columnName(int i) const { return m_columns.fieldName(i); }

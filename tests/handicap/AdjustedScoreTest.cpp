@@ -1,5 +1,6 @@
 #include "handicap/AdjustedScore.h"
 #include "HandicapFixture.h"
+#include "handicap/MaximumIndex.h"
 
 using namespace quillon;
 using namespace quillon::test;
@@ -94,9 +95,10 @@ TEST(AdjustedScore, Handicap8Point9OnSlope120CapsParThreeAtFive)
 
 TEST(AdjustedScore, NoIndexCapsAManAtTenOnSlope130AndAWomanAtTenOnSlope113)
 {
-    ASSERT_EQ(HoleCap(CourseHandicap(kMaximumIndex, 130, k18)), 10);
-    ASSERT_EQ(HoleCap(CourseHandicap(kMaximumIndexWomen, 113, k18)), 10);
-    EXPECT_EQ(AdjustedScore(120, CourseHandicap(kMaximumIndex, 130, k18), holes({12, 10, 11}, {4, 4, 5})),
+    ASSERT_EQ(HoleCap(CourseHandicap(MaximumIndex(QStringLiteral("M")), 130, k18)), 10);
+    ASSERT_EQ(HoleCap(CourseHandicap(MaximumIndex(QStringLiteral("F")), 113, k18)), 10);
+    EXPECT_EQ(AdjustedScore(120, CourseHandicap(MaximumIndex(QStringLiteral("M")), 130, k18),
+                            holes({12, 10, 11}, {4, 4, 5})),
               117);
 }
 
