@@ -1,7 +1,5 @@
-#include "platform/DesktopPlatform.h"
-#include "shell/MDIForm1.h"
-#include "shell/SingleInstance.h"
-#include "shell/Startup.h"
+#include "desktop/DesktopPlatform.h"
+#include "shell/Program.h"
 
 #include <QApplication>
 
@@ -18,16 +16,7 @@ int main(int argc, char **argv)
         arguments << QString::fromLocal8Bit(argv[i]);
 
     installPlatform(std::make_unique<DesktopPlatform>());
-    SingleInstance instance(appFile(SingleInstance::defaultLockName()));
-
-    MDIForm1 &frame = MDIForm1::instance();
-    const StartupOutcome outcome = MDIForm1_Load(frame, instance, arguments.join(QLatin1Char(' ')));
-    if (outcome == StartupOutcome::Exit) {
-        MDIForm1::unload();
-        return 0;
-    }
-    frame.show();
-    const int rc = app.exec();
-    MDIForm1::unload();
-    return rc;
+    const int status = RunProgram(arguments);
+    installPlatform(nullptr);
+    return status;
 }

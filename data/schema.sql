@@ -108,3 +108,7 @@ CREATE INDEX ScoreLogGolfer ON ScoreLog (LastName, FirstName, Date);
 CREATE INDEX ScoreDetailsRound ON ScoreDetails (ScoreIndex);
 CREATE INDEX ScoringRecordGolfer ON ScoringRecord (LastName, FirstName, Date);
 CREATE INDEX CourseDetailsTees ON CourseDetails (CourseName, Tees, Hole);
+
+-- A set of tees and a golfer are each one row: the keys compare without case, as the names do.
+CREATE UNIQUE INDEX CourseLogKey ON CourseLog (CourseName, Tees);
+CREATE UNIQUE INDEX HandicapLogKey ON HandicapLog (LastName, FirstName);

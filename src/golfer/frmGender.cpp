@@ -1,6 +1,7 @@
 #include "frmGender.h"
 
-#include "platform/Platform.h"
+#include "DialogPlacement.h"
+#include "ui/FormInstance.h"
 
 #include <QCoreApplication>
 #include <QGroupBox>
@@ -13,21 +14,6 @@
 
 namespace quillon {
 
-namespace {
-
-QPointer<frmGender> &theInstance()
-{
-    static QPointer<frmGender> form;
-    return form;
-}
-
-// The dialog has no parent of its own; it must go before the application does.
-void destroyInstance()
-{
-    delete theInstance().data();
-}
-
-} // namespace
 
 frmGender::frmGender(QWidget *parent) : QDialog(parent)
 {
@@ -70,16 +56,7 @@ frmGender::frmGender(QWidget *parent) : QDialog(parent)
 
 frmGender &frmGender::instance()
 {
-    QPointer<frmGender> &form = theInstance();
-    if (!form) {
-        static bool routineAdded = false;
-        if (!routineAdded) {
-            qAddPostRoutine(destroyInstance);
-            routineAdded = true;
-        }
-        form = new frmGender;
-    }
-    return *form;
+    return FormInstance<frmGender>::get();
 }
 
 QString frmGender::GetGender(const QString &first, const QString &last)
@@ -92,7 +69,7 @@ QString frmGender::GetGender(const QString &first, const QString &last)
     // Take the size the new text needs before measuring where to stand.
     ensurePolished();
     layout()->activate();
-    centreOnFrame();
+    CentreOnFrame(*this);
     // Escape and the close box end the dialog as well; the answer is then taken as it stands.
     exec();
     return m_optFemale->isChecked() ? QStringLiteral("F") : QStringLiteral("M");
@@ -106,19 +83,6 @@ void frmGender::clearOptions()
         option->setChecked(false);
         option->setAutoExclusive(true);
     }
-}
-
-void frmGender::centreOnFrame()
-{
-    const QWidget *frame = platformInstalled() ? platform().dialogParent() : nullptr;
-    if (!frame)
-        return;
-    // The window must exist for its border to count in its own outer size.
-    winId();
-    const QRect outer = frame->frameGeometry();
-    const QSize own = frameGeometry().size();
-    move(outer.left() + outer.width() / 2 - own.width() / 2,
-         outer.top() + outer.height() / 2 - own.height() / 2);
 }
 
 } // namespace quillon

@@ -24,8 +24,6 @@ public:
     QString GetGender(const QString &first, const QString &last);
 
 private:
-    // Left and top so that the dialog stands in the middle of the main window.
-    void centreOnFrame();
     void clearOptions();
 
     QLabel *m_lblInstructions = nullptr;

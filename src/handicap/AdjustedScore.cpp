@@ -131,14 +131,13 @@ QVector<HoleScore> RoundHoleScores(Connection &c, qint64 scoreIndex, const QStri
                                    const QString &first, const QDate &date, const QString &course,
                                    const QString &tees)
 {
-    QSqlQuery &q = c.run(QStringLiteral("SELECT Score, PAR FROM ScoreDetails WHERE ScoreIndex = ? "
+    Statement q = c.run(QStringLiteral("SELECT Score, PAR FROM ScoreDetails WHERE ScoreIndex = ? "
                                         "AND LastName = ? AND FirstName = ? AND Date = ? AND CourseName = ? "
                                         "AND Tees = ? ORDER BY Hole"),
                          {scoreIndex, last, first, IsoDate(date), course, tees});
     QVector<HoleScore> holes;
     while (q.next())
         holes.append({optionalInt(q.value(0)), optionalInt(q.value(1))});
-    q.finish();
     return holes;
 }
 

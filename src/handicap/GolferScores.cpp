@@ -36,7 +36,7 @@ void GolferScores::resetMarksBefore(const QVariant &start)
 
 QVector<LogRound> GolferScores::periodRounds(const QVariant &start)
 {
-    QSqlQuery &q = m_connection.run(
+    Statement q = m_connection.run(
         QStringLiteral(
             "SELECT ScoreIndex, LastName, FirstName, CourseName, Date, Holes, Type, AdjustedScore, "
             "Rating, Slope, Differential, Used, CombinedIndex FROM ScoreLog "
@@ -61,7 +61,6 @@ QVector<LogRound> GolferScores::periodRounds(const QVariant &start)
         r.combinedIndex = q.value(12);
         rounds.append(std::move(r));
     }
-    q.finish();
     return rounds;
 }
 
@@ -74,13 +73,12 @@ void GolferScores::deleteRecord()
 QSet<qint64> GolferScores::roundsHeldInRecord()
 {
     QSet<qint64> held;
-    QSqlQuery &q = m_connection.run(QStringLiteral("SELECT ScoreIndex, CombinedIndex FROM ScoringRecord"));
+    Statement q = m_connection.run(QStringLiteral("SELECT ScoreIndex, CombinedIndex FROM ScoringRecord"));
     while (q.next()) {
         for (int i = 0; i < 2; ++i)
             if (!q.value(i).isNull())
                 held.insert(q.value(i).toLongLong());
     }
-    q.finish();
     return held;
 }
 
@@ -97,7 +95,7 @@ void GolferScores::insertRecord(const QVector<RecordRow> &rows)
 
 QVector<RecordRow> GolferScores::readRecord()
 {
-    QSqlQuery &q = m_connection.run(
+    Statement q = m_connection.run(
         QStringLiteral(
             "SELECT rowid, LastName, FirstName, CourseName, Date, ScoreIndex, CombinedIndex, Score, "
             "Rating, Slope, Differential, Used, Details FROM ScoringRecord "
@@ -121,7 +119,6 @@ QVector<RecordRow> GolferScores::readRecord()
         r.details = q.value(12).toString();
         rows.append(std::move(r));
     }
-    q.finish();
     return rows;
 }
 
@@ -133,13 +130,12 @@ void GolferScores::setRecordRowUsed(qint64 rowId, const QString &used)
 QVector<QVariant> GolferScores::usedDifferentials()
 {
     QVector<QVariant> values;
-    QSqlQuery &q = m_connection.run(QStringLiteral("SELECT Differential FROM ScoringRecord "
+    Statement q = m_connection.run(QStringLiteral("SELECT Differential FROM ScoringRecord "
                                                    "WHERE LastName = ? AND FirstName = ? AND Used = 'Y' "
                                                    "ORDER BY Date, ScoreIndex"),
                                     golfer());
     while (q.next())
         values.append(q.value(0));
-    q.finish();
     return values;
 }
 

@@ -96,23 +96,39 @@ QVector<int> dateOrder(const QVector<RecordRow> &rows)
     return order;
 }
 
-// The gender the cap goes by; a golfer never asked is asked now, once, and the answer kept.
-QString genderFor(GolferScores &scores)
+// A golfer never asked for a gender is asked once, and the answer kept.  The question is a
+// modal dialog: a run that meets it inside its transaction gives the transaction up, and the
+// question is asked with no write under way.
+struct GenderNeeded {};
+
+enum class WhenUnknown { Ask, GiveUp };
+
+void askGender(GolferScores &scores)
 {
-    const std::optional<QVariant> stored = scores.gender();
-    if (!stored) // no golfer row: PublishHandicap will say so
-        return QString();
-    if (!stored->isNull())
-        return stored->toString();
     GenderQuestion *question = basLogGlobals().genderQuestion;
     if (!question)
         throw QuillonError(91, QStringLiteral("Object variable or With block variable not set"));
-    const QString answer = question->GetGender(scores.firstName(), scores.lastName());
-    scores.storeGender(answer);
-    return answer;
+    scores.storeGender(question->GetGender(scores.firstName(), scores.lastName()));
 }
 
-float indexFromUsed(GolferScores &scores, const QVector<QVariant> &used)
+// The gender the cap goes by.
+QString genderFor(GolferScores &scores, WhenUnknown whenUnknown)
+{
+    std::optional<QVariant> stored = scores.gender();
+    if (!stored) // no golfer row: PublishHandicap will say so
+        return QString();
+    if (stored->isNull()) {
+        if (whenUnknown == WhenUnknown::GiveUp)
+            throw GenderNeeded();
+        askGender(scores);
+        stored = scores.gender();
+        if (!stored || stored->isNull())
+            return QString();
+    }
+    return stored->toString();
+}
+
+float indexFromUsed(GolferScores &scores, const QVector<QVariant> &used, WhenUnknown whenUnknown)
 {
     QVector<double> differentials;
     differentials.reserve(used.size());
@@ -120,7 +136,7 @@ float indexFromUsed(GolferScores &scores, const QVector<QVariant> &used)
         differentials.append(UsedScoreMarker::StoredValue(d));
     const QString text =
         IndexText::FromSum(IndexText::SumOfDifferentials(differentials), differentials.size());
-    return IndexText::Value(IndexText::Capped(text, genderFor(scores)));
+    return IndexText::Value(IndexText::Capped(text, genderFor(scores, whenUnknown)));
 }
 
 // The part of PublishHandicap that shows: the message when the golfer has no
@@ -171,11 +187,15 @@ qint16 DifferentialsUsed(int scores)
     }
 }
 
-void ComputeHandicap()
+namespace {
+
+// One run in one transaction: all or nothing, so a failed run leaves the previous record,
+// marks and handicap.  Throws GenderNeeded, having changed nothing, when the cap needs a
+// gender that was never asked.
+void runHandicap()
 {
     LogGlobals &g = basLogGlobals();
     GolferScores scores = currentGolfer();
-    // All or nothing: a failed run leaves the previous record, marks and handicap.
     Transaction run(db());
 
     BuiltRecord built = buildRecord(scores);
@@ -204,13 +224,31 @@ void ComputeHandicap()
         for (const int i : byDate)
             if (rows.at(i).used == UsedMark::Used)
                 used.append(rows.at(i).differential);
-        value = indexFromUsed(scores, used);
+        value = indexFromUsed(scores, used, WhenUnknown::GiveUp);
     }
     const bool rowFound = scores.storeHandicap(value);
     run.commit();
 
     requery(g.gScoreLog);
     showHandicap(value, rowFound);
+}
+
+} // namespace
+
+void ComputeHandicap()
+{
+    try {
+        runHandicap();
+    } catch (const GenderNeeded &) {
+        GolferScores scores = currentGolfer();
+        askGender(scores);
+        try {
+            runHandicap();
+        } catch (const GenderNeeded &) {
+            // The answer did not stay (the golfer's row went meanwhile): no run without a gender.
+            throw QuillonError(3021, QStringLiteral("No current record."));
+        }
+    }
 }
 
 void BuildScoringRecord()
@@ -251,7 +289,7 @@ void MarkUsedScores(qint16 &count, Recordset &records)
 float AverageDifferentials()
 {
     GolferScores scores = currentGolfer();
-    return indexFromUsed(scores, scores.usedDifferentials());
+    return indexFromUsed(scores, scores.usedDifferentials(), WhenUnknown::Ask);
 }
 
 void PublishHandicap(float value)

@@ -1,15 +1,15 @@
 #include "Hourglass.h"
 
-#include <QCursor>
-#include <QGuiApplication>
+#include "Platform.h"
 
 namespace quillon {
 
 Hourglass::Hourglass()
 {
-    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance())) {
-        QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
-        m_active = true;
+    if (platformInstalled()) {
+        Platform &p = platform();
+        m_platformSerial = p.m_serial;
+        p.beginBusy();
     }
 }
 
@@ -20,10 +20,11 @@ Hourglass::~Hourglass()
 
 void Hourglass::release()
 {
-    if (m_active) {
-        QGuiApplication::restoreOverrideCursor();
-        m_active = false;
-    }
+    // The platform this began on may have been replaced meanwhile (tests do so); a
+    // replacement never held this share of the pointer.
+    if (m_platformSerial != 0 && platformInstalled() && platform().m_serial == m_platformSerial)
+        platform().endBusy();
+    m_platformSerial = 0;
 }
 
 } // namespace quillon

@@ -1,7 +1,17 @@
 #include "MDIForm1.h"
 
+#include "MenuRules.h"
+#include "Program.h"
 #include "ToolbarIcons.h"
+#include "golfer/frmDeleteGolfer.h"
+#include "golfer/frmNewGolfer.h"
+#include "help/ApplicationIcon.h"
+#include "help/frmAbout.h"
+#include "help/frmHelp.h"
+#include "platform/Hourglass.h"
 #include "platform/Platform.h"
+#include "ui/Guarded.h"
+#include "views/frmScoreLog.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -9,7 +19,9 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QApplication>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -176,16 +188,31 @@ MDIForm1::MDIForm1()
     m_mdiArea->setObjectName(QStringLiteral("mdiArea"));
     setCentralWidget(m_mdiArea);
 
+    setWindowIcon(ApplicationIcon());
+
     buildMenus();
     buildToolbar();
     buildStatusBar();
     placeOnScreen();
 
+    m_views = new ViewHost(*m_mdiArea, [this](const QString &name) { return menuItem(name); }, this);
+    m_views->registerView(QStringLiteral("frmScoreLog"), QStringLiteral("mnuViewScoreLog"), [] {
+        auto *log = new frmScoreLog;
+        // Score details come with their own view; until then the request has nowhere to go.
+        return log;
+    });
+    wireCommands();
+
     LogGlobals &g = basLogGlobals();
     g.handicapDisplay = this;
     g.genderQuestion = &m_genderQuestion;
-    if (platformInstalled())
+    g.frame = this;
+    if (platformInstalled()) {
         platform().setDialogParent(this);
+        platform().setHelpHandler([](const QString &anchor) { frmHelp::instance().ShowHelp(anchor); });
+    }
+    disableUnbuilt();
+    mirrorToolbar();
 }
 
 MDIForm1::~MDIForm1()
@@ -195,8 +222,12 @@ MDIForm1::~MDIForm1()
         g.handicapDisplay = nullptr;
     if (g.genderQuestion == &m_genderQuestion)
         g.genderQuestion = nullptr;
-    if (platformInstalled() && platform().dialogParent() == this)
+    if (g.frame == this)
+        g.frame = nullptr;
+    if (platformInstalled() && platform().dialogParent() == this) {
         platform().setDialogParent(nullptr);
+        platform().setHelpHandler({});
+    }
 }
 
 void MDIForm1::buildMenus()
@@ -233,7 +264,192 @@ void MDIForm1::buildMenus()
         m_items.insert(name, action);
     }
 
-    connect(menuItem(QStringLiteral("mnuCourseExit")), &QAction::triggered, this, &QWidget::close);
+}
+
+void MDIForm1::onItem(const char *item, std::function<void()> handler)
+{
+    QAction *action = menuItem(QLatin1String(item));
+    m_built.insert(action->objectName());
+    connect(action, &QAction::triggered, this, [handler = std::move(handler)] { RunGuarded(handler); });
+}
+
+void MDIForm1::wireCommands()
+{
+    onItem("mnuCourseExit", [this] { close(); });
+    onItem("mnuNewGolfer", [this] { mnuNewGolfer_Click(); });
+    onItem("mnuFilePrintSetup", [] { platform().printSetup(); });
+    onItem("mnuViewScoreLog", [this] { mnuViewScoreLog_Click(); });
+    const struct {
+        const char *item;
+        ScoreLogSelection selection;
+    } selections[] = {{"mnuViewAll", ScoreLogSelection::All},
+                      {"mnuViewUsed", ScoreLogSelection::Used},
+                      {"mnuViewCurrent", ScoreLogSelection::CurrentYear}};
+    for (const auto &s : selections)
+        onItem(s.item, [this, selection = s.selection] {
+            if (auto *log = qobject_cast<frmScoreLog *>(m_views->loaded(QStringLiteral("frmScoreLog"))))
+                log->ViewSelection(selection);
+        });
+    onItem("mnuDeleteGolfer", [] { frmDeleteGolfer::instance().DeleteGolfer(); });
+    onItem("mnuHelpContents", [] { frmHelp::instance().ShowHelp(QString()); });
+    onItem("mnuHelpAbout", [] { frmAbout::instance().ShowAbout(); });
+    // The popup's items run the command of the menu item they stand for.
+    const struct {
+        const char *popupItem;
+        const char *item;
+    } popup[] = {{"mnuSLViewScoringRecord", "mnuViewScoringRecord"},
+                 {"mnuSLViewCourseInfo", "mnuViewCourseInfo"},
+                 {"mnuSLViewUltimateScorecard", "mnuViewUltimateScorecard"},
+                 {"mnuSLPrintScorecard", "mnuPrintScorecard"},
+                 {"mnuSLPrintScoreLog", "mnuPrintScoreLog"},
+                 {"mnuSLPrintScoreDetails", "mnuPrintScoreDetails"},
+                 {"mnuSLPrintScoringRecord", "mnuPrintScoringRecord"},
+                 {"mnuSLDeleteScore", "mnuDeleteScore"}};
+    for (const auto &p : popup) {
+        QAction *target = menuItem(QLatin1String(p.item));
+        QAction *entry = menuItem(QLatin1String(p.popupItem));
+        connect(entry, &QAction::triggered, target, &QAction::trigger);
+        // The popup offers what its menu item offers.
+        connect(target, &QAction::enabledChanged, entry, &QAction::setEnabled);
+        entry->setEnabled(target->isEnabled());
+    }
+}
+
+void MDIForm1::mnuNewGolfer_Click()
+{
+    {
+        Hourglass hourglass;
+        UnloadForms();
+    }
+    frmNewGolfer::instance().GetNewGolfer();
+}
+
+void MDIForm1::mnuViewScoreLog_Click()
+{
+    QAction *item = menuItem(QStringLiteral("mnuViewScoreLog"));
+    if (item->isChecked()) {
+        // Already the checked view: from score details, the log comes back.
+        if (ActiveFormName() == QLatin1String("frmViewScoreDetails"))
+            m_views->unload(QStringLiteral("frmViewScoreDetails"));
+        return;
+    }
+    m_views->switchTo(QStringLiteral("frmScoreLog"));
+}
+
+QString MDIForm1::ActiveFormName() const
+{
+    if (QWidget *modal = QApplication::activeModalWidget())
+        return modal->objectName();
+    return m_views->activeFormName();
+}
+
+void MDIForm1::AskForGolfer()
+{
+    frmNewGolfer::instance().GetNewGolfer();
+}
+
+void MDIForm1::ShowScoreLog()
+{
+    m_views->show(QStringLiteral("frmScoreLog"));
+}
+
+void MDIForm1::UnloadForms(QWidget *keep)
+{
+    m_views->unloadAllBut();
+    for (QMdiSubWindow *w : m_mdiArea->subWindowList(QMdiArea::CreationOrder))
+        if (w->widget() != keep)
+            w->close();
+}
+
+void MDIForm1::EndProgram()
+{
+    hide();
+    quillon::EndProgram();
+}
+
+void MDIForm1::RefreshActiveView()
+{
+    const QString checked = m_views->checkedView(
+        {QStringLiteral("frmScoreLog"), QStringLiteral("frmCourseInfo"), QStringLiteral("frmUltimateScore"),
+         QStringLiteral("frmGolferStats"), QStringLiteral("frmGraphs")});
+    if (checked.isEmpty())
+        return;
+    if (checked == QLatin1String("frmScoreLog") && m_views->loaded(QStringLiteral("frmViewScoreDetails"))) {
+        m_views->show(QStringLiteral("frmViewScoreDetails"));
+        return;
+    }
+    m_views->show(checked);
+}
+
+void MDIForm1::setPanelText(const QString &key, const QString &text)
+{
+    if (QLabel *p = panel(key))
+        p->setText(text);
+}
+
+void MDIForm1::UpdateMenus(const QString &formName)
+{
+    LogGlobals &g = basLogGlobals();
+    MenuInputs in;
+    in.formName = formName;
+    in.courseCount = g.gCourseCount;
+    if (g.gConnection && !g.gLastName.isEmpty())
+        in.detailsCount = Scalar(*g.gConnection,
+                                 QStringLiteral("SELECT COUNT(*) FROM (SELECT DISTINCT Date, ScoreIndex FROM "
+                                                "ScoreDetails WHERE Firstname = ? AND Lastname = ?)"),
+                                 {g.gFirstName, g.gLastName})
+                              .toInt();
+    if (g.gScoreLog) {
+        in.scoreLogRows = g.gScoreLog->rows().rowCount();
+        in.scoreLogEmpty = in.scoreLogRows == 0;
+    }
+    if (formName != QLatin1String("frmCourseInfo")) {
+        QLabel *details = panel(QStringLiteral("ScoreDetails"));
+        details->setText(QString());
+        details->setToolTip(QString());
+        details->setFrameStyle(QFrame::NoFrame);
+    }
+    const MenuStates states = MenuRulesFor(in);
+    for (auto it = states.cbegin(); it != states.cend(); ++it)
+        if (QAction *item = menuItem(it.key()))
+            item->setEnabled(it.value());
+    disableUnbuilt();
+    mirrorToolbar();
+}
+
+void MDIForm1::disableUnbuilt()
+{
+    // A command whose screen is not in this build is never offered: nothing a user can choose
+    // does nothing.
+    for (auto it = m_items.cbegin(); it != m_items.cend(); ++it) {
+        QAction *a = it.value();
+        if (a->menu() || a->isSeparator() || it.key().startsWith(QLatin1String("mnuSL")))
+            continue;
+        if (!m_built.contains(it.key()))
+            a->setEnabled(false);
+    }
+}
+
+void MDIForm1::mirrorToolbar()
+{
+    for (const ToolbarMirror &m : ToolbarMirrors())
+        if (QAction *button = toolButton(m.key))
+            button->setEnabled(menuItem(m.parent)->isEnabled() && menuItem(m.item)->isEnabled());
+}
+
+void MDIForm1::PrintCommand(const QString &item)
+{
+    const bool logOrRecord =
+        item == QLatin1String("mnuPrintScoreLog") || item == QLatin1String("mnuPrintScoringRecord");
+    if (platform().defaultPrinterName().isEmpty()) {
+        platform().messageBox(
+            logOrRecord ? QStringLiteral("Unable to obtain printer information from the system.  Make sure the "
+                                         "printer is set up correctly.")
+                        : QStringLiteral("Unable to print.  You must configure your system with a default printer."),
+            MsgIcon::Critical, appTitle());
+        return;
+    }
+    // The printouts come with their own screens; until then the items stand disabled.
 }
 
 void MDIForm1::buildToolbar()
@@ -334,6 +550,7 @@ void MDIForm1::DatabaseMissing()
     for (const char *key : {"NewCourse", "NewGolfer", "NewScore", "EditCourse", "EditScore", "GolferStats",
                             "Graphs", "CourseInfo", "ScoreLog"})
         toolButton(latin(key))->setEnabled(false);
+    disableUnbuilt();
 }
 
 void MDIForm1::ApplyCommandMode()
@@ -356,8 +573,24 @@ void MDIForm1::setCourseHdcpCalculatorEnabled(bool enabled)
     menuItem(QStringLiteral("mnuToolsCourseHdcpCalculator"))->setEnabled(enabled);
 }
 
+bool MDIForm1::unsavedInputStands() const
+{
+    // An entry form marks itself while it holds typed input that is not saved.
+    for (QWidget *w : QApplication::allWidgets())
+        if (w->isVisible() && w->property("unsavedInput").toBool())
+            return true;
+    return false;
+}
+
 void MDIForm1::closeEvent(QCloseEvent *event)
 {
+    if (unsavedInputStands() &&
+        platform().messageBox(QStringLiteral("You have entered information that has not been saved.  Close "
+                                             "Quillon for Golf and lose it?"),
+                              MsgIcon::Question, appTitle(), MsgButtons::YesNo, MsgAnswer::No) != MsgAnswer::Yes) {
+        event->ignore();
+        return;
+    }
     // The views go with the frame, before what they read from is released.
     m_mdiArea->closeAllSubWindows();
     basLogGlobals().releaseAll();

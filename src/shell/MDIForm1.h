@@ -2,9 +2,12 @@
 
 #include "golfer/GenderDialogQuestion.h"
 #include "shell/basLogGlobals.h"
+#include "ui/ViewHost.h"
 
 #include <QHash>
 #include <QMainWindow>
+#include <QSet>
+#include <functional>
 #include <QString>
 
 class QAction;
@@ -18,7 +21,7 @@ namespace quillon {
 // The frame: the menu tree, the toolbar and the status bar are the program's whole
 // command surface, and every view is a maximized child of its MDI area.
 // The commands themselves are wired by the forms they open; the frame only knows Exit.
-class MDIForm1 : public QMainWindow, public HandicapDisplay {
+class MDIForm1 : public QMainWindow, public HandicapDisplay, public FrameServices {
     Q_OBJECT
 public:
     // The one frame, created on first use.
@@ -32,9 +35,9 @@ public:
 
     // A menu item by name (mnuNewScore, mnuFileNew, mnuFileSep1, ...); sub-menus answer with
     // their menu action, whose Enabled and Visible govern the whole sub-menu.  Null if unknown.
-    QAction *menuItem(const QString &name) const;
+    QAction *menuItem(const QString &name) const override;
     // A sub-menu (mnuFile, mnuToolsDatabase, ...) or the popup mnuScoreLog; null if unknown.
-    QMenu *menu(const QString &name) const;
+    QMenu *menu(const QString &name) const override;
     // A toolbar button by key (NewCourse, ..., Help); null if unknown.
     QAction *toolButton(const QString &key) const;
     // A status-bar panel by key (GolferName, ScoreDetails, Handicap); null if unknown.
@@ -50,6 +53,27 @@ public:
     // HandicapDisplay
     void setHandicapPanel(const QString &text) override;
     void setCourseHdcpCalculatorEnabled(bool enabled) override;
+
+    // FrameServices
+    void UpdateMenus(const QString &formName) override;
+    void RefreshActiveView() override;
+    void setPanelText(const QString &key, const QString &text) override;
+    void ShowScoreLog() override;
+    void UnloadForms(QWidget *keep = nullptr) override;
+    void EndProgram() override;
+    QWidget *frameWidget() override { return this; }
+
+    ViewHost &views() { return *m_views; }
+    // The name of the active form: a modal dialog up, else the active view; empty when none.
+    QString ActiveFormName() const;
+
+    // Step 14 of the start: ask for a golfer.  "E&xit" there ends the program.
+    void AskForGolfer();
+
+    // A print command: the printer check first, then the printout.
+    void PrintCommand(const QString &item);
+    // Whether a command has its handler in this build; an item without one is never enabled.
+    bool isBuilt(const QString &item) const { return m_built.contains(item); }
 
 signals:
     // A click on a status-bar panel, by key.
@@ -71,6 +95,14 @@ private:
     void placeOnScreen();
     // The toolbar's click handler: the button's caption names the menu item it runs.
     void Toolbar1_ButtonClick(const QAction *button);
+    void wireCommands();
+    // Run a menu item's command under the error trap; the item is then counted as built.
+    void onItem(const char *item, std::function<void()> handler);
+    void mnuNewGolfer_Click();
+    void mnuViewScoreLog_Click();
+    void disableUnbuilt();
+    void mirrorToolbar();
+    bool unsavedInputStands() const;
 
     QMdiArea *m_mdiArea = nullptr;
     QToolBar *m_toolbar = nullptr;
@@ -80,6 +112,8 @@ private:
     QHash<QString, QString> m_buttonItems; // caption -> menu item name
     QHash<QString, QLabel *> m_panels;
     GenderDialogQuestion m_genderQuestion;
+    ViewHost *m_views = nullptr;
+    QSet<QString> m_built;
 };
 
 } // namespace quillon

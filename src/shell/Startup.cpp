@@ -9,6 +9,7 @@
 #include "store/Upgrade.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 
 namespace quillon {
@@ -24,6 +25,28 @@ void openAndCount(LogGlobals &g)
     const Recordset courses = Query(
         *g.gConnection, QStringLiteral("SELECT DISTINCT CourseName FROM CourseLog ORDER BY CourseName"));
     g.gCourseCount = Int16(courses.rowCount()).value();
+}
+
+// A database the program cannot write is told now, before a user types a round that could not be saved.
+bool writable(LogGlobals &g)
+{
+    switch (CheckWritable(*g.gConnection)) {
+    case Writability::Writable:
+        return true;
+    case Writability::ReadOnly:
+        platform().messageBox(
+            QStringLiteral("The Quillon database cannot be changed.  Make sure that you may write to the file "
+                           "%1 and to the folder it is in, then start Quillon for Golf again.")
+                .arg(QDir::toNativeSeparators(g.gConnection->path())),
+            MsgIcon::Critical, appTitle());
+        return false;
+    case Writability::InUse:
+        platform().messageBox(QStringLiteral("The Quillon database is in use by another program.  Close that "
+                                             "program and start Quillon for Golf again."),
+                              MsgIcon::Critical, appTitle());
+        return false;
+    }
+    return false;
 }
 
 } // namespace
@@ -71,6 +94,11 @@ StartupOutcome MDIForm1_Load(MDIForm1 &frame, SingleInstance &instance, const QS
         if (!g.gConnection) {
             platform().messageBox(QStringLiteral("Unable to open the Quillon database."), MsgIcon::Critical,
                                   appTitle());
+            return StartupOutcome::Exit;
+        }
+
+        if (!writable(g)) {
+            g.releaseAll();
             return StartupOutcome::Exit;
         }
 

@@ -23,4 +23,12 @@ Connection &db()
     return *c;
 }
 
+FrameServices &frame()
+{
+    auto *f = basLogGlobals().frame;
+    if (!f)
+        throw QuillonError(91, QStringLiteral("Object variable or With block variable not set"));
+    return *f;
+}
+
 } // namespace quillon

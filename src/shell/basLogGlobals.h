@@ -6,7 +6,33 @@
 #include <QString>
 #include <memory>
 
+class QAction;
+class QMenu;
+class QWidget;
+
 namespace quillon {
+
+// What the forms ask of the frame; set by MDIForm1.  Forms reach each other through it
+// rather than being handed one another.
+class FrameServices {
+public:
+    virtual ~FrameServices() = default;
+    // Decide what the menus and toolbar offer for the form now active.
+    virtual void UpdateMenus(const QString &formName) = 0;
+    // Show the checked view again after something changed under it.
+    virtual void RefreshActiveView() = 0;
+    virtual QAction *menuItem(const QString &name) const = 0;
+    virtual QMenu *menu(const QString &name) const = 0;
+    // A status-bar panel by key: GolferName, ScoreDetails, Handicap.
+    virtual void setPanelText(const QString &key, const QString &text) = 0;
+    // The score log, maximized in the frame.
+    virtual void ShowScoreLog() = 0;
+    // Unload every form but the frame and `keep`, from the last opened to the first.
+    virtual void UnloadForms(QWidget *keep = nullptr) = 0;
+    // End the program now, releasing what it holds.
+    virtual void EndProgram() = 0;
+    virtual QWidget *frameWidget() = 0;
+};
 
 // What the handicap engine shows on the frame: the status-bar panel "Handicap"
 // and whether the course handicap calculator may be used.
@@ -39,6 +65,7 @@ struct LogGlobals {
     // Where the engine publishes and whom it asks; set by the frame (tests set their own).
     HandicapDisplay *handicapDisplay = nullptr;
     GenderQuestion *genderQuestion = nullptr;
+    FrameServices *frame = nullptr;
 
     // Release the golfer's rows and the connection, in that order.
     void releaseAll();
@@ -48,5 +75,7 @@ LogGlobals &basLogGlobals();
 
 // The connection, or a fault when there is none.
 Connection &db();
+// The frame, or a fault when there is none.
+FrameServices &frame();
 
 } // namespace quillon

@@ -8,10 +8,12 @@ namespace quillon {
 
 // A recordset that lives on (the golfer's score log and handicap row): it keeps
 // its statement so that it can be read again, and tells its viewers when it was.
+// It shares the connection it reads from, so a restore that replaces the global
+// connection never leaves it holding a closed one.
 class HeldRecordset : public QObject {
     Q_OBJECT
 public:
-    HeldRecordset(Connection &connection, QString sql, Params params, QObject *parent = nullptr);
+    HeldRecordset(ConnectionPtr connection, QString sql, Params params, QObject *parent = nullptr);
 
     Recordset &rows() { return m_rows; }
     const QString &sql() const { return m_sql; }
@@ -24,7 +26,7 @@ signals:
     void requeried();
 
 private:
-    Connection &m_connection;
+    ConnectionPtr m_connection;
     QString m_sql;
     Params m_params;
     Recordset m_rows;

@@ -1,11 +1,48 @@
 #include "basDatabase.h"
 
+#include "DatabaseError.h"
+
 #include <QAtomicInt>
+#include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlRecord>
+#include <list>
+#include <unistd.h>
 
 namespace quillon {
+
+// Idle prepared statements, the most recently used first.  A statement is taken out while it
+// runs, so the same text can be walked twice at once, and the oldest idle ones are dropped
+// beyond the bound.
+class StatementCache {
+public:
+    std::optional<QSqlQuery> take(const QString &sql)
+    {
+        for (auto it = m_idle.begin(); it != m_idle.end(); ++it) {
+            if (it->first == sql) {
+                QSqlQuery q = std::move(it->second);
+                m_idle.erase(it);
+                return q;
+            }
+        }
+        return std::nullopt;
+    }
+
+    void giveBack(QString sql, QSqlQuery query)
+    {
+        query.finish();
+        m_idle.emplace_front(std::move(sql), std::move(query));
+        while (int(m_idle.size()) > Connection::kCachedStatements)
+            m_idle.pop_back();
+    }
+
+    void clear() { m_idle.clear(); }
+    int size() const { return int(m_idle.size()); }
+
+private:
+    std::list<std::pair<QString, QSqlQuery>> m_idle;
+};
 
 namespace {
 
@@ -15,25 +52,46 @@ QuillonError &lastError()
     return error;
 }
 
-QuillonError toError(const QSqlError &e)
-{
-    bool ok = false;
-    int number = e.nativeErrorCode().toInt(&ok);
-    if (!ok || number == 0)
-        number = 3146; // the general "call failed" of the database layer
-    QString text = e.databaseText();
-    if (text.isEmpty())
-        text = e.text();
-    return QuillonError(number, text);
-}
-
 QString nextConnectionName()
 {
     static QAtomicInt counter;
     return QStringLiteral("quillon-%1").arg(counter.fetchAndAddRelaxed(1) + 1);
 }
 
+// How long a statement waits for another program's lock before it fails: long enough for a
+// short write elsewhere to end, short enough that a held lock is told rather than felt.
+constexpr int kBusyTimeoutMs = 1500;
+
 } // namespace
+
+Statement::Statement(std::weak_ptr<StatementCache> cache, QString sql, QSqlQuery query)
+    : m_cache(std::move(cache)), m_sql(std::move(sql)), m_query(std::move(query))
+{
+}
+
+Statement::Statement(Statement &&other) noexcept
+    : m_cache(std::move(other.m_cache)), m_sql(std::move(other.m_sql)), m_query(std::move(other.m_query)),
+      m_owned(other.m_owned)
+{
+    other.m_owned = false;
+}
+
+Statement::~Statement()
+{
+    if (!m_owned)
+        return;
+    if (auto cache = m_cache.lock())
+        cache->giveBack(std::move(m_sql), std::move(m_query));
+}
+
+bool Statement::next()
+{
+    if (m_query.next())
+        return true;
+    if (m_query.lastError().isValid())
+        throw DatabaseError(m_query.lastError());
+    return false;
+}
 
 const QStringList &requiredTables()
 {
@@ -45,10 +103,12 @@ const QStringList &requiredTables()
     return tables;
 }
 
-Connection::Connection(const QString &path) : m_name(nextConnectionName()), m_path(path)
+Connection::Connection(const QString &path)
+    : m_name(nextConnectionName()), m_path(path), m_cache(std::make_shared<StatementCache>())
 {
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name);
     db.setDatabaseName(path);
+    db.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(kBusyTimeoutMs));
 }
 
 Connection::~Connection()
@@ -82,29 +142,42 @@ bool Connection::open()
 
 void Connection::close()
 {
-    m_statements.clear();
+    m_cache->clear();
+    // Statements still out belong to a closed file now: they are not taken back.
+    m_cache = std::make_shared<StatementCache>();
     QSqlDatabase db = database();
     if (db.isValid() && db.isOpen())
         db.close();
 }
 
-QSqlQuery &Connection::run(const QString &sql, const Params &params)
+int Connection::cachedStatements() const
 {
-    auto it = m_statements.find(sql);
-    if (it == m_statements.end()) {
-        QSqlQuery q(database());
+    return m_cache->size();
+}
+
+Statement Connection::run(const QString &sql, const Params &params)
+{
+    std::optional<QSqlQuery> cached = m_cache->take(sql);
+    QSqlQuery q = cached ? std::move(*cached) : QSqlQuery(database());
+    if (!cached) {
         q.setForwardOnly(true);
         if (!q.prepare(sql))
-            throw toError(q.lastError());
-        it = m_statements.insert(sql, q);
+            throw DatabaseError(q.lastError());
     }
-    QSqlQuery &q = it.value();
-    q.finish();
     for (int i = 0; i < params.size(); ++i)
         q.bindValue(i, params.at(i));
-    if (!q.exec())
-        throw toError(q.lastError());
-    return q;
+    // From here the query goes back to the cache however the run ends.
+    Statement statement(m_cache, sql, std::move(q));
+    if (!statement.m_query.exec())
+        throw DatabaseError(statement.m_query.lastError());
+    return statement;
+}
+
+void Connection::runOnce(const QString &sql)
+{
+    QSqlQuery q(database());
+    if (!q.exec(sql))
+        throw DatabaseError(q.lastError());
 }
 
 ConnectionPtr OpenDatabase(const QString &path)
@@ -119,35 +192,46 @@ ConnectionPtr OpenDatabase(const QString &path)
     return c;
 }
 
+Writability CheckWritable(Connection &connection)
+{
+    // The rollback journal is made beside the file, so the folder must take new files too.
+    const QFileInfo info(connection.path());
+    if (::access(QFile::encodeName(info.absolutePath()).constData(), W_OK) != 0 ||
+        ::access(QFile::encodeName(info.absoluteFilePath()).constData(), W_OK) != 0)
+        return Writability::ReadOnly;
+    // Taking the write lock, and giving it back at once, writes nothing to the file.
+    try {
+        connection.runOnce(QStringLiteral("BEGIN IMMEDIATE"));
+    } catch (const QuillonError &e) {
+        if (e.number() == QuillonError::PermissionDenied)
+            return Writability::ReadOnly;
+        if (e.number() == kEngineErrorBase + engine::Busy || e.number() == kEngineErrorBase + engine::Locked)
+            return Writability::InUse;
+        throw;
+    }
+    connection.runOnce(QStringLiteral("ROLLBACK"));
+    return Writability::Writable;
+}
+
 Recordset Query(Connection &connection, const QString &sql, const Params &params)
 {
-    QSqlQuery &q = connection.run(sql, params);
+    Statement q = connection.run(sql, params);
     QVector<QSqlRecord> rows;
-    QSqlRecord columns = q.record();
+    const QSqlRecord columns = q.record();
     while (q.next())
         rows.append(q.record());
-    if (q.lastError().isValid())
-        throw toError(q.lastError());
-    q.finish();
     return Recordset(columns, std::move(rows));
 }
 
 int Exec(Connection &connection, const QString &sql, const Params &params)
 {
-    QSqlQuery &q = connection.run(sql, params);
-    const int n = q.numRowsAffected();
-    q.finish();
-    return n;
+    return connection.run(sql, params).numRowsAffected();
 }
 
 QVariant Scalar(Connection &connection, const QString &sql, const Params &params)
 {
-    QSqlQuery &q = connection.run(sql, params);
-    QVariant v;
-    if (q.next())
-        v = q.value(0);
-    q.finish();
-    return v;
+    Statement q = connection.run(sql, params);
+    return q.next() ? q.value(0) : QVariant();
 }
 
 qint64 LastInsertId(Connection &connection)
@@ -181,11 +265,15 @@ QuillonError LastDatabaseError()
     return lastError();
 }
 
+// Every unit uses the same savepoint name: the engine undoes and releases the most recent
+// savepoint of a name, which is exactly the nesting of scopes.
+namespace {
+const QString kSavepoint = QStringLiteral("quillon_unit");
+}
+
 Transaction::Transaction(Connection &connection) : m_connection(connection)
 {
-    static int counter = 0;
-    m_name = QStringLiteral("unit%1").arg(++counter);
-    Exec(m_connection, QStringLiteral("SAVEPOINT ") + m_name);
+    m_connection.runOnce(QStringLiteral("SAVEPOINT ") + kSavepoint);
     m_open = true;
 }
 
@@ -194,8 +282,8 @@ Transaction::~Transaction()
     if (!m_open)
         return;
     try {
-        Exec(m_connection, QStringLiteral("ROLLBACK TO ") + m_name);
-        Exec(m_connection, QStringLiteral("RELEASE ") + m_name);
+        m_connection.runOnce(QStringLiteral("ROLLBACK TO ") + kSavepoint);
+        m_connection.runOnce(QStringLiteral("RELEASE ") + kSavepoint);
     } catch (const QuillonError &) {
         // The engine may have ended the transaction itself (a full disk does); nothing is left to undo.
     }
@@ -203,7 +291,7 @@ Transaction::~Transaction()
 
 void Transaction::commit()
 {
-    Exec(m_connection, QStringLiteral("RELEASE ") + m_name);
+    m_connection.runOnce(QStringLiteral("RELEASE ") + kSavepoint);
     m_open = false;
 }
 

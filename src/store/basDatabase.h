@@ -3,7 +3,6 @@
 #include "Recordset.h"
 #include "core/QuillonError.h"
 
-#include <QHash>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
@@ -15,8 +14,37 @@ namespace quillon {
 
 using Params = QVariantList;
 
-// One open database file.  Statements are prepared once and kept, since the
-// same few texts run over and over with new values bound.
+class StatementCache;
+
+// One run of a statement, checked out of its connection's cache for as long as it is
+// walked: a second run of the same text meanwhile gets a query of its own, and the query
+// goes back to the cache when the walk ends.
+class Statement {
+public:
+    Statement(Statement &&other) noexcept;
+    Statement &operator=(Statement &&other) = delete;
+    Statement(const Statement &) = delete;
+    Statement &operator=(const Statement &) = delete;
+    ~Statement();
+
+    // The next row; false past the last.  A fault met while stepping throws QuillonError.
+    bool next();
+    QVariant value(int column) const { return m_query.value(column); }
+    QSqlRecord record() const { return m_query.record(); }
+    int numRowsAffected() const { return m_query.numRowsAffected(); }
+
+private:
+    friend class Connection;
+    Statement(std::weak_ptr<StatementCache> cache, QString sql, QSqlQuery query);
+
+    std::weak_ptr<StatementCache> m_cache;
+    QString m_sql;
+    QSqlQuery m_query;
+    bool m_owned = true;
+};
+
+// One open database file.  Statements are prepared once and kept, since the same few texts
+// run over and over with new values bound; the cache holds a bounded number of them.
 class Connection {
 public:
     explicit Connection(const QString &path);
@@ -27,9 +55,15 @@ public:
     QSqlDatabase database() const;
     const QString &path() const { return m_path; }
 
-    // Run one statement with its values bound; the query is left positioned before its first row.
-    // Throws QuillonError with the driver's number and text on failure.
-    QSqlQuery &run(const QString &sql, const Params &params = {});
+    // Run one statement with its values bound; the result is positioned before its first row.
+    // Throws QuillonError with the engine's failure.
+    Statement run(const QString &sql, const Params &params = {});
+    // Run a statement that is not worth keeping (transaction control, pragmas).
+    void runOnce(const QString &sql);
+
+    // Prepared statements held now, idle ones only; never more than kCachedStatements.
+    int cachedStatements() const;
+    static constexpr int kCachedStatements = 64;
 
     // Drop every prepared statement, so that the file can be closed.
     void close();
@@ -40,7 +74,7 @@ private:
 
     QString m_name;
     QString m_path;
-    QHash<QString, QSqlQuery> m_statements;
+    std::shared_ptr<StatementCache> m_cache;
 };
 
 using ConnectionPtr = std::shared_ptr<Connection>;
@@ -51,6 +85,11 @@ const QStringList &requiredTables();
 // Open a Quillon database.  Nothing on any failure, silently: a missing file,
 // an unreadable or damaged one, or an SQLite file without our tables.  The caller decides what to say.
 ConnectionPtr OpenDatabase(const QString &path);
+
+// Whether the program can write to an open database: a read-only file or folder, or another
+// program holding a lock on the file, would let a user type a round that cannot be saved.
+enum class Writability { Writable, ReadOnly, InUse };
+Writability CheckWritable(Connection &connection);
 
 // The rows of a query, or nothing on failure, silently.
 std::optional<Recordset> OpenRecordset(Connection &connection, const QString &sql, const Params &params = {});
@@ -78,7 +117,6 @@ public:
 
 private:
     Connection &m_connection;
-    QString m_name;
     bool m_open = false;
 };
 

@@ -246,12 +246,12 @@ TEST_F(ComputeHandicapRun, RequeriesTheHeldScoreLogAndHandicapRow)
     LogGlobals &g = basLogGlobals();
     const Params golfer = {spec.last, spec.first};
     g.gScoreLog = std::make_unique<HeldRecordset>(
-        db(),
+        basLogGlobals().gConnection,
         QStringLiteral("SELECT ScoreIndex, Used FROM ScoreLog WHERE LastName = ? AND FirstName = ? "
                        "ORDER BY ScoreIndex"),
         golfer);
     g.gHandicapLog = std::make_unique<HeldRecordset>(
-        db(), QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer);
+        basLogGlobals().gConnection, QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer);
 
     ComputeHandicap();
 

@@ -157,3 +157,44 @@ TEST_F(HandicapTransaction, TheDatabaseStaysInRollbackJournalMode)
     EXPECT_FALSE(QFile::exists(app().file(QStringLiteral("Quillon.qdl-wal"))));
     EXPECT_FALSE(QFile::exists(app().file(QStringLiteral("Quillon.qdl-journal"))));
 }
+
+namespace {
+
+// Answers the gender question and notes whether, at that moment, another program could
+// have written to the file: a modal question must never stand while a write lock is held.
+class LockCheckingQuestion : public GenderQuestion {
+public:
+    explicit LockCheckingQuestion(QString path) : m_path(std::move(path)) {}
+    QString GetGender(const QString &, const QString &) override
+    {
+        ++asked;
+        ConnectionPtr other = OpenDatabase(m_path);
+        writableWhileAsked = other && CheckWritable(*other) == Writability::Writable;
+        return QStringLiteral("F");
+    }
+    int asked = 0;
+    bool writableWhileAsked = false;
+
+private:
+    QString m_path;
+};
+
+} // namespace
+
+TEST_F(HandicapTransaction, GenderIsAskedWithNoWriteUnderWayAndTheRunThenCompletes)
+{
+    addGolfer(db(), spec.last, spec.first, QString());
+    for (int day = 1; day <= 5; ++day)
+        addRoundOn(day, 40.0 + day);
+    LockCheckingQuestion question(db().path());
+    basLogGlobals().genderQuestion = &question;
+
+    ComputeHandicap();
+
+    EXPECT_EQ(question.asked, 1);
+    EXPECT_TRUE(question.writableWhileAsked) << "the question stood while the run held the file";
+    EXPECT_EQ(storedGender().toString(), QStringLiteral("F"));
+    // 41.0 is the one used of five: 41.0 x 0.96 = 39.36, under a woman's cap.
+    EXPECT_EQ(display.panel, QStringLiteral("Handicap: 39.3"));
+    EXPECT_EQ(Scalar(db(), QStringLiteral("SELECT COUNT(*) FROM ScoringRecord")).toInt(), 5);
+}

@@ -19,10 +19,10 @@ void HandicapRulesTest::choose(const QString &lastName, const QString &firstName
     app.setGolfer(last, first);
     LogGlobals &g = basLogGlobals();
     g.gScoreLog = std::make_unique<HeldRecordset>(
-        db(), QStringLiteral("SELECT * FROM ScoreLog WHERE LastName = ? AND FirstName = ?"),
+        g.gConnection, QStringLiteral("SELECT * FROM ScoreLog WHERE LastName = ? AND FirstName = ?"),
         Params{last, first});
     g.gHandicapLog = std::make_unique<HeldRecordset>(
-        db(), QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
+        g.gConnection, QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
         Params{last, first});
 }
 

@@ -168,8 +168,8 @@ TEST(Database, ThrowingFormsCarryTheDriversNumberAndText)
         Query(app.db(), QStringLiteral("SELECT Nonsense FROM HandicapLog"));
         FAIL() << "no fault";
     } catch (const QuillonError &e) {
-        EXPECT_EQ(e.number(), 1); // SQLite's "SQL error"
-        EXPECT_TRUE(e.message().startsWith(QStringLiteral("Error 1: ")));
+        EXPECT_EQ(e.number(), 3201); // the engine's "SQL error", numbered clear of the language's own
+        EXPECT_TRUE(e.message().startsWith(QStringLiteral("Error 3201: ")));
         EXPECT_TRUE(e.description().contains(QStringLiteral("Nonsense")));
     }
 }
@@ -230,7 +230,7 @@ TEST(Database, CommittedDataLivesInTheFileItself)
 TEST(Database, HeldRecordsetSeesNewRowsOnRequery)
 {
     TestApp app;
-    HeldRecordset held(app.db(), QStringLiteral("SELECT LastName FROM HandicapLog WHERE LastName = ?"),
+    HeldRecordset held(basLogGlobals().gConnection, QStringLiteral("SELECT LastName FROM HandicapLog WHERE LastName = ?"),
                        {QStringLiteral("O'Neil")});
     EXPECT_TRUE(held.rows().eof());
     int signals_ = 0;
@@ -249,7 +249,8 @@ TEST(UpdateCheck, FreshInstallTakesTheUpdateFileOver)
     CheckForUpdate();
     EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Update.qdl"))));
     EXPECT_EQ(bytesOf(app.file(QStringLiteral("Quillon.qdl"))), shipped);
-    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("quillon.bak")))) << "a fresh install takes no backup";
+    // Nothing else is left behind: no safety copy of a database that did not exist.
+    EXPECT_EQ(QDir(app.dir()).entryList(QDir::Files | QDir::Hidden), QStringList{"Quillon.qdl"});
 }
 
 TEST(UpdateCheck, NoUpdateFileChangesNothing)

@@ -17,6 +17,7 @@ void addGolfer(Connection &c, const QString &last, const QString &first, const Q
 
 void addCourse(Connection &c, const CourseSpec &s)
 {
+    Transaction unit(c);
     int parOut = 0, parIn = 0;
     for (int i = 0; i < s.pars.size(); ++i)
         (i < 9 ? parOut : parIn) += s.pars.at(i);
@@ -31,6 +32,7 @@ void addCourse(Connection &c, const CourseSpec &s)
              QStringLiteral("INSERT INTO CourseDetails (CourseName, Tees, Hole, PAR, Handicap, Yards) "
                             "VALUES (?, ?, ?, ?, ?, ?)"),
              {s.name, s.tees, i + 1, s.pars.at(i), i + 1, 350});
+    unit.commit();
 }
 
 qint64 addRound(Connection &c, const RoundSpec &r)
@@ -49,6 +51,7 @@ qint64 addRound(Connection &c, const RoundSpec &r)
 void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole,
                    const QVector<int> &scores, const QVector<int> &pars)
 {
+    Transaction unit(c);
     for (int i = 0; i < scores.size(); ++i)
         Exec(c,
              QStringLiteral(
@@ -57,6 +60,7 @@ void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int fir
                  "VALUES (?, ?, ?, ?, ?, ?, ?, ?, 2, ?, -1, 0)"),
              {r.last, r.first, r.course, r.tees, IsoDate(r.date), scoreIndex, firstHole + i, scores.at(i),
               pars.at(i)});
+    unit.commit();
 }
 
 QStringList columnValues(Connection &c, const QString &sql, const Params &params)

@@ -15,10 +15,10 @@ ScriptedPlatform::~ScriptedPlatform()
                       << m.title.toStdString() << "\"";
 }
 
-MsgAnswer ScriptedPlatform::messageBox(const QString &text, MsgIcon icon, const QString &title,
-                                       MsgButtons buttons, MsgAnswer defaultButton)
+MsgAnswer ScriptedPlatform::showMessageBox(const QString &text, MsgIcon icon, const QString &title,
+                                           MsgButtons buttons, MsgAnswer defaultButton)
 {
-    m_messages.push_back({text, icon, title, buttons, defaultButton});
+    m_messages.push_back({text, icon, title, buttons, defaultButton, pointerBusy()});
     if (m_answers.empty())
         return defaultButton;
     const MsgAnswer a = m_answers.front();
@@ -26,8 +26,9 @@ MsgAnswer ScriptedPlatform::messageBox(const QString &text, MsgIcon icon, const 
     return a;
 }
 
-QString ScriptedPlatform::getSaveFileName(const QString &, const QString &, const QString &)
+QString ScriptedPlatform::showSaveFileDialog(const QString &, const QString &filter, const QString &)
 {
+    m_fileFilters << filter;
     if (m_saveFiles.empty())
         return QString();
     QString p = m_saveFiles.front();
@@ -35,8 +36,9 @@ QString ScriptedPlatform::getSaveFileName(const QString &, const QString &, cons
     return p;
 }
 
-QString ScriptedPlatform::getOpenFileName(const QString &, const QString &)
+QString ScriptedPlatform::showOpenFileDialog(const QString &, const QString &filter)
 {
+    m_fileFilters << filter;
     if (m_openFiles.empty())
         return QString();
     QString p = m_openFiles.front();
@@ -44,15 +46,45 @@ QString ScriptedPlatform::getOpenFileName(const QString &, const QString &)
     return p;
 }
 
+bool ScriptedPlatform::showPrintSetup()
+{
+    ++printSetupCount;
+    return printSetupAnswer;
+}
+
 std::unique_ptr<QPagedPaintDevice> ScriptedPlatform::openPrinter(const QString &documentName)
 {
     if (printerName.isEmpty())
         return nullptr;
-    const QString path = QDir(m_appDir).filePath(QStringLiteral("printed-%1.pdf").arg(m_printed.size() + 1));
+    return openPdfPrinter(QDir(m_appDir).filePath(QStringLiteral("printed-%1.pdf").arg(m_printed.size() + 1)),
+                          documentName);
+}
+
+std::unique_ptr<QPagedPaintDevice> ScriptedPlatform::openPdfPrinter(const QString &path,
+                                                                    const QString &documentName)
+{
     m_printed << path;
     auto writer = std::make_unique<QPdfWriter>(path);
     writer->setTitle(documentName);
     return writer;
+}
+
+void ScriptedPlatform::progress(int value, int maximum, const QString &text)
+{
+    m_progressSteps.push_back({value, maximum, text});
+    m_progressShowing = true;
+}
+
+void ScriptedPlatform::progressDone()
+{
+    ++m_progressDone;
+    m_progressShowing = false;
+}
+
+void ScriptedPlatform::showHelp(const QString &anchor)
+{
+    m_helpAnchors << anchor;
+    callHelpHandler(anchor);
 }
 
 QVector<ShownMessage> ScriptedPlatform::takeMessages()

@@ -1,0 +1,172 @@
+#include "DesktopPlatform.h"
+
+#include "PrinterSettings.h"
+#include "platform/FileFilter.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QProgressDialog>
+
+namespace quillon {
+
+DesktopPlatform::DesktopPlatform() = default;
+
+DesktopPlatform::~DesktopPlatform()
+{
+    delete m_progress.data();
+    if (m_cursorPushed)
+        QGuiApplication::restoreOverrideCursor();
+}
+
+MsgAnswer DesktopPlatform::showMessageBox(const QString &text, MsgIcon icon, const QString &title,
+                                          MsgButtons buttons, MsgAnswer defaultButton)
+{
+    QMessageBox box(dialogParent());
+    box.setText(text);
+    box.setWindowTitle(title);
+    switch (icon) {
+    case MsgIcon::None: box.setIcon(QMessageBox::NoIcon); break;
+    case MsgIcon::Critical: box.setIcon(QMessageBox::Critical); break;
+    case MsgIcon::Exclamation: box.setIcon(QMessageBox::Warning); break;
+    case MsgIcon::Question: box.setIcon(QMessageBox::Question); break;
+    case MsgIcon::Information: box.setIcon(QMessageBox::Information); break;
+    }
+    switch (buttons) {
+    case MsgButtons::OK: box.setStandardButtons(QMessageBox::Ok); break;
+    case MsgButtons::OKCancel: box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel); break;
+    case MsgButtons::YesNo: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
+    }
+    switch (defaultButton) {
+    case MsgAnswer::OK: box.setDefaultButton(QMessageBox::Ok); break;
+    case MsgAnswer::Cancel: box.setDefaultButton(QMessageBox::Cancel); break;
+    case MsgAnswer::Yes: box.setDefaultButton(QMessageBox::Yes); break;
+    case MsgAnswer::No: box.setDefaultButton(QMessageBox::No); break;
+    }
+    switch (box.exec()) {
+    case QMessageBox::Cancel: return MsgAnswer::Cancel;
+    case QMessageBox::Yes: return MsgAnswer::Yes;
+    case QMessageBox::No: return MsgAnswer::No;
+    default: break;
+    }
+    // Closing an OK/Cancel or Yes/No box by its frame counts as the safe answer.
+    if (buttons == MsgButtons::OKCancel)
+        return box.clickedButton() == box.button(QMessageBox::Ok) ? MsgAnswer::OK : MsgAnswer::Cancel;
+    if (buttons == MsgButtons::YesNo)
+        return MsgAnswer::No;
+    return MsgAnswer::OK;
+}
+
+QString DesktopPlatform::showSaveFileDialog(const QString &title, const QString &filter,
+                                            const QString &defaultName)
+{
+    return QFileDialog::getSaveFileName(dialogParent(), title, defaultName, toQtFileFilter(filter));
+}
+
+QString DesktopPlatform::showOpenFileDialog(const QString &title, const QString &filter)
+{
+    return QFileDialog::getOpenFileName(dialogParent(), title, QString(), toQtFileFilter(filter));
+}
+
+QString DesktopPlatform::defaultPrinterName()
+{
+    return QPrinterInfo::defaultPrinter().printerName();
+}
+
+QPrinter &DesktopPlatform::setupPrinter()
+{
+    // Made on first use: a printer wants the application object to exist.
+    if (!m_setupPrinter)
+        m_setupPrinter = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *m_setupPrinter;
+}
+
+bool DesktopPlatform::showPrintSetup()
+{
+    QPrintDialog dialog(&setupPrinter(), dialogParent());
+    return dialog.exec() == QDialog::Accepted;
+}
+
+std::unique_ptr<QPagedPaintDevice> DesktopPlatform::openPrinter(const QString &documentName)
+{
+    const PrinterSettings settings = readPrinterSettings(setupPrinter());
+    if (!settings.printsToFile() && settings.printerName.isEmpty() && defaultPrinterName().isEmpty())
+        return nullptr;
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    applyPrinterSettings(settings, *printer);
+    printer->setDocName(documentName);
+    return printer;
+}
+
+std::unique_ptr<QPagedPaintDevice> DesktopPlatform::openPdfPrinter(const QString &path,
+                                                                   const QString &documentName)
+{
+    // The page as set up (size, orientation, margins), written to the file asked for.
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    applyPrinterSettings(readPrinterSettings(setupPrinter()), *printer);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    printer->setOutputFileName(path);
+    printer->setDocName(documentName);
+    return printer;
+}
+
+QDate DesktopPlatform::today()
+{
+    return QDate::currentDate();
+}
+
+QString DesktopPlatform::appDir()
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+void DesktopPlatform::progress(int value, int maximum, const QString &text)
+{
+    if (!m_progress) {
+        m_progress = new QProgressDialog(dialogParent());
+        m_progress->setWindowTitle(appTitle());
+        // The work cannot be stopped half-way, so there is nothing to cancel.
+        m_progress->setCancelButton(nullptr);
+        m_progress->setAutoClose(false);
+        m_progress->setAutoReset(false);
+        m_progress->setMinimumDuration(0);
+        m_progress->setWindowModality(Qt::ApplicationModal);
+    }
+    m_progress->setRange(0, maximum);
+    m_progress->setLabelText(text);
+    m_progress->setValue(value);
+    if (!m_progress->isVisible())
+        m_progress->show();
+    // Long work runs on the event thread: let the dialog paint.
+    QCoreApplication::processEvents();
+}
+
+void DesktopPlatform::progressDone()
+{
+    delete m_progress.data();
+}
+
+void DesktopPlatform::showHelp(const QString &anchor)
+{
+    // Until the frame installs its help window there is nowhere to show help.
+    callHelpHandler(anchor);
+}
+
+void DesktopPlatform::showBusyPointer(bool busy)
+{
+    if (busy) {
+        if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+            return;
+        QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+        m_cursorPushed = true;
+    } else if (m_cursorPushed) {
+        QGuiApplication::restoreOverrideCursor();
+        m_cursorPushed = false;
+    }
+}
+
+} // namespace quillon

@@ -1,0 +1,54 @@
+#include "FrameFixture.h"
+
+#include "golfer/frmDeleteGolfer.h"
+#include "golfer/frmGender.h"
+#include "golfer/frmNewGolfer.h"
+#include "ui/FormInstance.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+namespace quillon::test {
+
+void FrameFixture::SetUp()
+{
+    frame = &MDIForm1::instance();
+    frame->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(frame));
+}
+
+void FrameFixture::TearDown()
+{
+    MDIForm1::unload();
+    FormInstance<frmNewGolfer>::destroy();
+    FormInstance<frmDeleteGolfer>::destroy();
+    FormInstance<frmGender>::destroy();
+}
+
+void FrameFixture::chooseGolfer(const QString &typed, bool isNew)
+{
+    ModalScript script;
+    script.expect(QStringLiteral("frmNewGolfer"), [typed](QWidget *dialog) {
+        auto *box = findControl<QLineEdit>(dialog, QStringLiteral("txtGolfer"));
+        box->setFocus();
+        QTest::keyClicks(box, typed);
+        findControl<QPushButton>(dialog, QStringLiteral("cmdOK"))->click();
+    });
+    if (isNew)
+        script.expect(QStringLiteral("frmGender"),
+                      [](QWidget *dialog) { findControl<QPushButton>(dialog, QStringLiteral("cmdOK"))->click(); });
+    frmNewGolfer::instance().GetNewGolfer();
+}
+
+QStringList FrameFixture::checkedViews() const
+{
+    QStringList out;
+    for (const char *name : {"mnuViewScoreLog", "mnuViewScoringRecord", "mnuViewGolferStatistics", "mnuViewGraphs",
+                             "mnuViewUltimateScorecard", "mnuViewCourseInfo"})
+        if (item(QLatin1String(name))->isChecked())
+            out << QLatin1String(name);
+    return out;
+}
+
+} // namespace quillon::test

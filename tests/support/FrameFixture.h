@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Fixtures.h"
+#include "TestApp.h"
+#include "Widgets.h"
+#include "shell/MDIForm1.h"
+
+#include <QAction>
+#include <QLabel>
+
+namespace quillon::test {
+
+// The frame on screen over a fresh database, with the scripted platform; a golfer is chosen
+// through the real golfer dialog when a test asks.
+class FrameFixture : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Answer the golfer dialog by typing `typed` and pressing OK (a new golfer is asked its
+    // gender, answered "M"); the dialog is opened by `open` (default: the dialog's own entry).
+    void chooseGolfer(const QString &typed, bool isNew = false);
+    // A menu item by name; triggering it runs its command as a click would.
+    QAction *item(const QString &name) const { return frame->menuItem(name); }
+    bool enabled(const QString &name) const { return item(name)->isEnabled(); }
+    QString panelText(const QString &key) const { return frame->panel(key)->text(); }
+    QStringList checkedViews() const;
+
+    TestApp app;
+    MDIForm1 *frame = nullptr;
+};
+
+} // namespace quillon::test
