@@ -42,9 +42,10 @@ void applyPrinterSettings(const PrinterSettings &settings, QPrinter &printer)
     if (settings.outputFormat == QPrinter::PdfFormat || !settings.outputFileName.isEmpty())
         printer.setOutputFileName(settings.outputFileName);
 
-    printer.setFullPage(settings.fullPage);
     printer.setPageLayout(
         QPageLayout(settings.pageSize, settings.orientation, settings.margins, settings.marginUnits));
+    // Full page is the layout's mode: set after the layout, which would reset it.
+    printer.setFullPage(settings.fullPage);
     printer.setCopyCount(settings.copies);
     printer.setCollateCopies(settings.collateCopies);
     printer.setColorMode(settings.colorMode);

@@ -2,6 +2,7 @@
 #include "FrameFixture.h"
 #include "golfer/GolferNames.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMdiArea>
@@ -25,7 +26,12 @@ QStringList listItems(QWidget *dialog)
 
 class NewGolfer : public FrameFixture {
 protected:
-    QStringList golfers() { return columnValues(app.db(), QStringLiteral("SELECT LastName, FirstName, Gender, Handicap FROM HandicapLog ORDER BY LastName")); }
+    // The golfers stored, read through a connection of the test's own: Exit releases the program's.
+    QStringList golfers()
+    {
+        ConnectionPtr c = OpenDatabase(app.file(QStringLiteral("Quillon.qdl")));
+        return columnValues(*c, QStringLiteral("SELECT LastName, FirstName, Gender, Handicap FROM HandicapLog ORDER BY LastName"));
+    }
 };
 
 } // namespace
@@ -148,7 +154,10 @@ TEST_F(NewGolfer, ClickOnARowCopiesItAndDoubleClickChoosesIt)
     ModalScript script;
     script.expect(QStringLiteral("frmNewGolfer"), [&](QWidget *d) {
         auto *list = findControl<QListWidget>(d, QStringLiteral("lstGolferList"));
-        const QRect r = list->visualItemRect(list->item(1));
+        QListWidgetItem *obrien = list->findItems(QStringLiteral("O'Brien, Pat"), Qt::MatchExactly).value(0);
+        ASSERT_NE(obrien, nullptr);
+        QApplication::processEvents();
+        const QRect r = list->visualItemRect(obrien);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, r.center());
         copied = findControl<QLineEdit>(d, QStringLiteral("txtGolfer"))->text();
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, r.center());

@@ -125,7 +125,12 @@ TEST_F(DesktopPlatformTest, OpenFileDialogFiltersInQtFormAndReturnsTheChosenFile
     QStringList filters;
     answerNextModal<QFileDialog>([&](QFileDialog &dialog) {
         filters = dialog.nameFilters();
-        dialog.selectFile(chosen);
+        // Typed as the user would: selectFile() leaves a focused name box alone.
+        auto *name = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+        if (name)
+            name->setText(chosen);
+        else
+            ADD_FAILURE() << "the file dialog has no file name box";
         static_cast<QDialog &>(dialog).accept();
     });
     const QString path = desktop().getOpenFileName(QStringLiteral("Restore"),

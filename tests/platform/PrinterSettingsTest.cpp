@@ -16,9 +16,9 @@ void setUpPdf(QPrinter &p, const QString &file)
 {
     p.setOutputFormat(QPrinter::PdfFormat);
     p.setOutputFileName(file);
-    p.setFullPage(true);
     p.setPageLayout(QPageLayout(QPageSize(QPageSize::A5), QPageLayout::Landscape, QMarginsF(12, 15, 18, 20),
                                 QPageLayout::Millimeter));
+    p.setFullPage(true);
     p.setCopyCount(3);
     p.setCollateCopies(false);
     p.setColorMode(QPrinter::GrayScale);
