@@ -19,7 +19,8 @@ public:
 
     QString defaultPrinterName() override;
     std::unique_ptr<QPagedPaintDevice> openPrinter(const QString &documentName) override;
-    std::unique_ptr<QPagedPaintDevice> openPdfPrinter(const QString &path, const QString &documentName) override;
+    std::unique_ptr<QPagedPaintDevice> openPdfPrinter(const QString &path,
+                                                      const QString &documentName) override;
     QDate today() override;
     QString appDir() override;
     void progress(int value, int maximum, const QString &text) override;
@@ -35,7 +36,8 @@ public:
 protected:
     MsgAnswer showMessageBox(const QString &text, MsgIcon icon, const QString &title, MsgButtons buttons,
                              MsgAnswer defaultButton) override;
-    QString showSaveFileDialog(const QString &title, const QString &filter, const QString &defaultName) override;
+    QString showSaveFileDialog(const QString &title, const QString &filter,
+                               const QString &defaultName) override;
     QString showOpenFileDialog(const QString &title, const QString &filter) override;
     bool showPrintSetup() override;
     void showBusyPointer(bool busy) override;

@@ -73,7 +73,7 @@ StartupOutcome MDIForm1_Load(MDIForm1 &frame, SingleInstance &instance, const QS
         g.gCommandString = QStringLiteral("-h");
         frame.ApplyCommandMode();
 
-        g.gHelpFile = appFile(QStringLiteral("Quillon.html"));
+        g.gHelpFile = appFile(QStringLiteral("help/index.html"));
 
         try {
             CheckForUpdate();

@@ -1,8 +1,8 @@
 // The desktop side of the seam, with real dialogs answered from the event loop.
+#include "desktop/DesktopPlatform.h"
 #include "ModalAnswer.h"
 #include "PrinterSettingsPrinting.h"
 #include "TestPrinting.h"
-#include "desktop/DesktopPlatform.h"
 #include "desktop/PrinterSettings.h"
 #include "platform/Hourglass.h"
 
@@ -133,8 +133,8 @@ TEST_F(DesktopPlatformTest, OpenFileDialogFiltersInQtFormAndReturnsTheChosenFile
             ADD_FAILURE() << "the file dialog has no file name box";
         static_cast<QDialog &>(dialog).accept();
     });
-    const QString path = desktop().getOpenFileName(QStringLiteral("Restore"),
-                                                   QStringLiteral("Quillon Data (*.qdl)|*.qdl|All Files|*.*"));
+    const QString path = desktop().getOpenFileName(
+        QStringLiteral("Restore"), QStringLiteral("Quillon Data (*.qdl)|*.qdl|All Files|*.*"));
     EXPECT_EQ(filters, QStringList({"Quillon Data (*.qdl)", "All Files (*.*)"}));
     EXPECT_EQ(path, chosen);
 }
@@ -146,8 +146,8 @@ TEST_F(DesktopPlatformTest, SaveFileDialogCancelledGivesNothing)
         filters = dialog.nameFilters();
         dialog.reject();
     });
-    const QString path = desktop().getSaveFileName(QStringLiteral("Backup"), QStringLiteral("Quillon Data|*.qdl"),
-                                                   file(QStringLiteral("Backup.qdl")));
+    const QString path = desktop().getSaveFileName(
+        QStringLiteral("Backup"), QStringLiteral("Quillon Data|*.qdl"), file(QStringLiteral("Backup.qdl")));
     EXPECT_EQ(filters, QStringList({"Quillon Data (*.qdl)"}));
     EXPECT_EQ(path, QString());
 }
@@ -205,7 +205,8 @@ TEST_F(DesktopPlatformTest, PdfIsWrittenWithNoPrinterInstalled)
 {
     const QString path = file(QStringLiteral("Score Card.pdf"));
     {
-        std::unique_ptr<QPagedPaintDevice> device = desktop().openPdfPrinter(path, QStringLiteral("Score Card"));
+        std::unique_ptr<QPagedPaintDevice> device =
+            desktop().openPdfPrinter(path, QStringLiteral("Score Card"));
         ASSERT_NE(device, nullptr);
         paintPage(*device, QStringLiteral("Quillon test page"));
     }

@@ -1,6 +1,6 @@
 // The program's "description|pattern" filters, turned into what Qt's file dialogs filter by.
-#include "TestPrinting.h"
 #include "platform/FileFilter.h"
+#include "TestPrinting.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 // The hourglass goes through the installed platform and never covers a question to the user.
+#include "platform/Hourglass.h"
 #include "ScriptedPlatform.h"
 #include "TestApp.h"
-#include "platform/Hourglass.h"
 
 #include <QTemporaryDir>
 #include <functional>

@@ -1,7 +1,7 @@
 // Printer settings as a value: read from one printer, laid on another, nothing lost.
+#include "desktop/PrinterSettings.h"
 #include "PrinterSettingsPrinting.h"
 #include "TestPrinting.h"
-#include "desktop/PrinterSettings.h"
 
 #include <QPrinterInfo>
 #include <QTemporaryDir>

@@ -143,9 +143,8 @@ TEST(ScriptedPlatform, RecordsHelpAnchorsAndPassesThemToTheFramesHandler)
     p.showHelp(QStringLiteral("handicap-index"));
     p.setHelpHandler(nullptr);
 
-    EXPECT_EQ(p.helpAnchors(),
-              QStringList({QStringLiteral("before-the-frame"), QStringLiteral("enter-score"),
-                           QStringLiteral("handicap-index")}));
+    EXPECT_EQ(p.helpAnchors(), QStringList({QStringLiteral("before-the-frame"), QStringLiteral("enter-score"),
+                                            QStringLiteral("handicap-index")}));
     EXPECT_EQ(opened, QStringList({QStringLiteral("enter-score"), QStringLiteral("handicap-index")}));
 }
 

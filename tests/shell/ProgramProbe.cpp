@@ -2,7 +2,8 @@
 // and a scripted user: tests start it as a real process and read how it ended.
 //
 //   QUILLON_PROBE_GOLFER   the name typed into the golfer dialog ("Exit" presses its Exit)
-//   QUILLON_PROBE_ACTION   what the user does once the program runs: exit-menu, close, quit
+//   QUILLON_PROBE_ACTION   what the user does once the program runs: exit-menu, close, quit,
+//                          help, about, sort (a click on the Course heading)
 //   QUILLON_PROBE_ANSWERS  answers to the message boxes in order (yes, no, ok, cancel)
 #include "desktop/DesktopPlatform.h"
 #include "shell/MDIForm1.h"
@@ -10,6 +11,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -89,6 +91,12 @@ void playUser()
         QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuCourseExit")), "trigger", Qt::QueuedConnection);
     else if (action == QLatin1String("close"))
         QMetaObject::invokeMethod(frame, "close", Qt::QueuedConnection);
+    else if (action == QLatin1String("help"))
+        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpContents")), "trigger", Qt::QueuedConnection);
+    else if (action == QLatin1String("about"))
+        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpAbout")), "trigger", Qt::QueuedConnection);
+    else if (action == QLatin1String("sort"))
+        QMetaObject::invokeMethod(frame->findChild<QHeaderView *>(), "sectionClicked", Qt::QueuedConnection, Q_ARG(int, 2));
     else if (action == QLatin1String("quit"))
         QMetaObject::invokeMethod(QCoreApplication::instance(), "quit", Qt::QueuedConnection);
 }

@@ -36,7 +36,8 @@ public:
 
     QString defaultPrinterName() override { return printerName; }
     std::unique_ptr<QPagedPaintDevice> openPrinter(const QString &documentName) override;
-    std::unique_ptr<QPagedPaintDevice> openPdfPrinter(const QString &path, const QString &documentName) override;
+    std::unique_ptr<QPagedPaintDevice> openPdfPrinter(const QString &path,
+                                                      const QString &documentName) override;
     QDate today() override { return todayDate; }
     QString appDir() override { return m_appDir; }
     void progress(int value, int maximum, const QString &text) override;
@@ -78,7 +79,8 @@ public:
 protected:
     MsgAnswer showMessageBox(const QString &text, MsgIcon icon, const QString &title, MsgButtons buttons,
                              MsgAnswer defaultButton) override;
-    QString showSaveFileDialog(const QString &title, const QString &filter, const QString &defaultName) override;
+    QString showSaveFileDialog(const QString &title, const QString &filter,
+                               const QString &defaultName) override;
     QString showOpenFileDialog(const QString &title, const QString &filter) override;
     bool showPrintSetup() override;
     void showBusyPointer(bool busy) override { m_pointerChanges << busy; }
