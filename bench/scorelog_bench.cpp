@@ -27,12 +27,14 @@ public:
         Transaction fill(*m_connection);
         for (int i = 0; i < 5000; ++i)
             Exec(*m_connection,
-                 QStringLiteral("INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
-                                "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, "
-                                "LostBalls, Bunkers, SandSaves, AttemptedSaves, CombinedIndex) VALUES (?, ?, ?, "
-                                "'White', ?, '18-holes', ?, ?, 71.5, 125, 'A', ?, 'N', 0, -1, -1, -1, -1, "
-                                "-1, 1)"),
-                 {QStringLiteral("O'Brien"), QStringLiteral("Pat"), i % 7 ? QStringLiteral("Pebble Creek") : QStringLiteral("Augusta"),
+                 QStringLiteral(
+                     "INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, "
+                     "AdjustedScore, Rating, Slope, Type, Differential, Used, Details, Penalties, "
+                     "LostBalls, Bunkers, SandSaves, AttemptedSaves, CombinedIndex) VALUES (?, ?, ?, "
+                     "'White', ?, '18-holes', ?, ?, 71.5, 125, 'A', ?, 'N', 0, -1, -1, -1, -1, "
+                     "-1, 1)"),
+                 {QStringLiteral("O'Brien"), QStringLiteral("Pat"),
+                  i % 7 ? QStringLiteral("Pebble Creek") : QStringLiteral("Augusta"),
                   IsoDate(QDate(2000, 1, 1).addDays(i)), 80 + i % 20, 80 + i % 18, 10.0 + (i % 150) / 10.0});
         fill.commit();
     }
@@ -51,8 +53,8 @@ LogDatabase &database()
 
 void openView(const QString &order, QueryTableModel &model)
 {
-    const SqlStatement s =
-        ScoreLogStatement(QStringLiteral("O'Brien"), QStringLiteral("Pat"), ScoreLogSelection::All, 2026, order);
+    const SqlStatement s = ScoreLogStatement(QStringLiteral("O'Brien"), QStringLiteral("Pat"),
+                                             ScoreLogSelection::All, 2026, order);
     model.setRows(Query(database().db(), s.sql, s.params));
 }
 

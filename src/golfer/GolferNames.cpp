@@ -66,7 +66,8 @@ QStringList GolferListItems(Connection &c)
 void AddGolferRow(Connection &c, const GolferName &name, const QString &gender)
 {
     Exec(c,
-         QStringLiteral("INSERT INTO HandicapLog (LastName, FirstName, Gender, Handicap) VALUES (?, ?, ?, -1000)"),
+         QStringLiteral(
+             "INSERT INTO HandicapLog (LastName, FirstName, Gender, Handicap) VALUES (?, ?, ?, -1000)"),
          {name.last, name.first, gender});
 }
 

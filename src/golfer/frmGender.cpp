@@ -14,7 +14,6 @@
 
 namespace quillon {
 
-
 frmGender::frmGender(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmGender"));

@@ -26,8 +26,8 @@ frmNewGolfer::frmNewGolfer(QWidget *parent) : QDialog(parent)
     setWindowTitle(QStringLiteral("New Golfer"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 
-    m_lblInstructions = new QLabel(
-        QStringLiteral("Enter the name of a new golfer or select a golfer from the list."), this);
+    m_lblInstructions =
+        new QLabel(QStringLiteral("Enter the name of a new golfer or select a golfer from the list."), this);
     m_lblInstructions->setObjectName(QStringLiteral("lblInstructions"));
     m_lblInstructions->setWordWrap(true);
     m_label1 = new QLabel(QStringLiteral("Golfer (Last name, First name):"), this);
@@ -120,9 +120,10 @@ void frmNewGolfer::cmdOK_Click()
         return;
     RunGuarded([this] {
         if (m_txtGolfer->text().isEmpty()) {
-            platform().messageBox(QStringLiteral("Please select a golfer from the list or \nenter the name of a "
-                                                 "new golfer."),
-                                  MsgIcon::Exclamation, QStringLiteral("ERROR:  New Golfer"));
+            platform().messageBox(
+                QStringLiteral("Please select a golfer from the list or \nenter the name of a "
+                               "new golfer."),
+                MsgIcon::Exclamation, QStringLiteral("ERROR:  New Golfer"));
             m_txtGolfer->setFocus();
             return;
         }
@@ -146,23 +147,23 @@ void frmNewGolfer::cmdOK_Click()
 bool frmNewGolfer::AddGolfer()
 {
     if (m_parsed.last.isEmpty() || m_parsed.first.isEmpty()) {
-        platform().messageBox(QStringLiteral("Invalid Name -- Please enter a first and last name."), MsgIcon::Critical,
-                              windowTitle());
+        platform().messageBox(QStringLiteral("Invalid Name -- Please enter a first and last name."),
+                              MsgIcon::Critical, windowTitle());
         m_txtGolfer->setFocus();
         m_txtGolfer->selectAll();
         return false;
     }
     const QString question = QStringLiteral("Add golfer %1 %2?").arg(m_parsed.first, m_parsed.last);
-    if (platform().messageBox(question, MsgIcon::Question, windowTitle(), MsgButtons::YesNo, MsgAnswer::Yes) ==
-        MsgAnswer::No) {
+    if (platform().messageBox(question, MsgIcon::Question, windowTitle(), MsgButtons::YesNo,
+                              MsgAnswer::Yes) == MsgAnswer::No) {
         m_txtGolfer->clear();
         m_txtGolfer->setFocus();
         return false;
     }
     LogGlobals &g = basLogGlobals();
     // The question comes first: nothing modal stands while the row is written.
-    const QString gender = g.genderQuestion ? g.genderQuestion->GetGender(m_parsed.first, m_parsed.last)
-                                            : QStringLiteral("M");
+    const QString gender =
+        g.genderQuestion ? g.genderQuestion->GetGender(m_parsed.first, m_parsed.last) : QStringLiteral("M");
     g.gLastName = m_parsed.last;
     g.gFirstName = m_parsed.first;
     AddGolferRow(db(), m_parsed, gender);
@@ -176,13 +177,15 @@ void frmNewGolfer::ActivateGolfer(bool isNew)
     const Params golfer = {g.gLastName, g.gFirstName};
     g.gScoreLog = std::make_unique<HeldRecordset>(
         g.gConnection, QStringLiteral("SELECT * FROM ScoreLog WHERE LastName=? AND FirstName=?"), golfer);
-    f.setPanelText(QStringLiteral("GolferName"), QStringLiteral("Golfer: %1 %2").arg(g.gFirstName, g.gLastName));
+    f.setPanelText(QStringLiteral("GolferName"),
+                   QStringLiteral("Golfer: %1 %2").arg(g.gFirstName, g.gLastName));
     f.menuItem(QStringLiteral("mnuViewScoreLog"))->setChecked(true);
     for (const char *item : {"mnuViewScoringRecord", "mnuViewGolferStatistics", "mnuViewCourseInfo",
                              "mnuViewUltimateScorecard", "mnuViewGraphs"})
         f.menuItem(QLatin1String(item))->setChecked(false);
     g.gHandicapLog = std::make_unique<HeldRecordset>(
-        g.gConnection, QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer);
+        g.gConnection, QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
+        golfer);
     if (g.gCommandString == QLatin1String("-h") && !isNew)
         ComputeHandicap();
 

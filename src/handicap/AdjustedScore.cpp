@@ -132,9 +132,9 @@ QVector<HoleScore> RoundHoleScores(Connection &c, qint64 scoreIndex, const QStri
                                    const QString &tees)
 {
     Statement q = c.run(QStringLiteral("SELECT Score, PAR FROM ScoreDetails WHERE ScoreIndex = ? "
-                                        "AND LastName = ? AND FirstName = ? AND Date = ? AND CourseName = ? "
-                                        "AND Tees = ? ORDER BY Hole"),
-                         {scoreIndex, last, first, IsoDate(date), course, tees});
+                                       "AND LastName = ? AND FirstName = ? AND Date = ? AND CourseName = ? "
+                                       "AND Tees = ? ORDER BY Hole"),
+                        {scoreIndex, last, first, IsoDate(date), course, tees});
     QVector<HoleScore> holes;
     while (q.next())
         holes.append({optionalInt(q.value(0)), optionalInt(q.value(1))});

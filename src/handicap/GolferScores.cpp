@@ -131,9 +131,9 @@ QVector<QVariant> GolferScores::usedDifferentials()
 {
     QVector<QVariant> values;
     Statement q = m_connection.run(QStringLiteral("SELECT Differential FROM ScoringRecord "
-                                                   "WHERE LastName = ? AND FirstName = ? AND Used = 'Y' "
-                                                   "ORDER BY Date, ScoreIndex"),
-                                    golfer());
+                                                  "WHERE LastName = ? AND FirstName = ? AND Used = 'Y' "
+                                                  "ORDER BY Date, ScoreIndex"),
+                                   golfer());
     while (q.next())
         values.append(q.value(0));
     return values;

@@ -1,5 +1,7 @@
 #include "frmAbout.h"
 
+#include "ui/FormInstance.h"
+
 #include "ApplicationIcon.h"
 #include "SystemInformation.h"
 #include "frmSysInfo.h"
@@ -17,18 +19,6 @@
 namespace quillon {
 
 namespace {
-
-QPointer<frmAbout> &theInstance()
-{
-    static QPointer<frmAbout> form;
-    return form;
-}
-
-// The dialog has no parent of its own; it must go before the application does.
-void destroyInstance()
-{
-    delete theInstance().data();
-}
 
 QLabel *namedLabel(const QString &name, const QString &text, QWidget *parent)
 {
@@ -134,16 +124,7 @@ frmAbout::frmAbout(QWidget *parent) : QDialog(parent), m_sysInfoSource(SystemInf
 
 frmAbout &frmAbout::instance()
 {
-    QPointer<frmAbout> &form = theInstance();
-    if (!form) {
-        static bool routineAdded = false;
-        if (!routineAdded) {
-            qAddPostRoutine(destroyInstance);
-            routineAdded = true;
-        }
-        form = new frmAbout;
-    }
-    return *form;
+    return FormInstance<frmAbout>::get();
 }
 
 void frmAbout::ShowAbout()

@@ -1,5 +1,7 @@
 #include "frmHelp.h"
 
+#include "ui/FormInstance.h"
+
 #include "ApplicationIcon.h"
 #include "platform/Platform.h"
 
@@ -17,18 +19,6 @@ namespace quillon {
 namespace {
 
 const QString kContentsPage = QStringLiteral("index.html");
-
-QPointer<frmHelp> &theInstance()
-{
-    static QPointer<frmHelp> form;
-    return form;
-}
-
-// The window has no parent of its own; it must go before the application does.
-void destroyInstance()
-{
-    delete theInstance().data();
-}
 
 QString windowTitleFor(const QString &pageTitle)
 {
@@ -96,16 +86,7 @@ frmHelp::frmHelp(QWidget *parent) : QMainWindow(parent)
 
 frmHelp &frmHelp::instance()
 {
-    QPointer<frmHelp> &form = theInstance();
-    if (!form) {
-        static bool routineAdded = false;
-        if (!routineAdded) {
-            qAddPostRoutine(destroyInstance);
-            routineAdded = true;
-        }
-        form = new frmHelp;
-    }
-    return *form;
+    return FormInstance<frmHelp>::get();
 }
 
 QString frmHelp::helpFolder()

@@ -14,12 +14,12 @@
 #include "views/frmScoreLog.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
-#include <QApplication>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -195,7 +195,8 @@ MDIForm1::MDIForm1()
     buildStatusBar();
     placeOnScreen();
 
-    m_views = new ViewHost(*m_mdiArea, [this](const QString &name) { return menuItem(name); }, this);
+    m_views = new ViewHost(
+        *m_mdiArea, [this](const QString &name) { return menuItem(name); }, this);
     m_views->registerView(QStringLiteral("frmScoreLog"), QStringLiteral("mnuViewScoreLog"), [] {
         auto *log = new frmScoreLog;
         // Score details come with their own view; until then the request has nowhere to go.
@@ -263,7 +264,6 @@ void MDIForm1::buildMenus()
         action->setObjectName(name);
         m_items.insert(name, action);
     }
-
 }
 
 void MDIForm1::onItem(const char *item, std::function<void()> handler)
@@ -443,9 +443,10 @@ void MDIForm1::PrintCommand(const QString &item)
         item == QLatin1String("mnuPrintScoreLog") || item == QLatin1String("mnuPrintScoringRecord");
     if (platform().defaultPrinterName().isEmpty()) {
         platform().messageBox(
-            logOrRecord ? QStringLiteral("Unable to obtain printer information from the system.  Make sure the "
-                                         "printer is set up correctly.")
-                        : QStringLiteral("Unable to print.  You must configure your system with a default printer."),
+            logOrRecord
+                ? QStringLiteral("Unable to obtain printer information from the system.  Make sure the "
+                                 "printer is set up correctly.")
+                : QStringLiteral("Unable to print.  You must configure your system with a default printer."),
             MsgIcon::Critical, appTitle());
         return;
     }
@@ -587,7 +588,8 @@ void MDIForm1::closeEvent(QCloseEvent *event)
     if (unsavedInputStands() &&
         platform().messageBox(QStringLiteral("You have entered information that has not been saved.  Close "
                                              "Quillon for Golf and lose it?"),
-                              MsgIcon::Question, appTitle(), MsgButtons::YesNo, MsgAnswer::No) != MsgAnswer::Yes) {
+                              MsgIcon::Question, appTitle(), MsgButtons::YesNo,
+                              MsgAnswer::No) != MsgAnswer::Yes) {
         event->ignore();
         return;
     }

@@ -7,8 +7,8 @@
 #include <QHash>
 #include <QMainWindow>
 #include <QSet>
-#include <functional>
 #include <QString>
+#include <functional>
 
 class QAction;
 class QLabel;

@@ -52,7 +52,8 @@ void viewRules(const MenuInputs &in, Column c, MenuStates &s)
         else if (c == Column::Details)
             details = true;
         set("mnuPrintScoreDetails", details);
-        set("mnuPrintStatistics", c == Column::StatsGraphsRecord && in.formName == QLatin1String("frmGolferStats"));
+        set("mnuPrintStatistics",
+            c == Column::StatsGraphsRecord && in.formName == QLatin1String("frmGolferStats"));
         set("mnuPrintGraph", c == Column::StatsGraphsRecord && in.formName == QLatin1String("frmGraphs"));
         set("mnuPrintUltimateScorecard", c == Column::Ultimate);
     }
@@ -86,8 +87,9 @@ void viewRules(const MenuInputs &in, Column c, MenuStates &s)
 bool IsDialogForm(const QString &formName)
 {
     static const QStringList dialogs = {
-        QStringLiteral("frmAbout"),        QStringLiteral("frmRSCalculator"), QStringLiteral("DeleteCourse"),
-        QStringLiteral("frmDeleteGolfer"), QStringLiteral("frmNewGolfer"),    QStringLiteral("frmHdcpCalculator"),
+        QStringLiteral("frmAbout"),     QStringLiteral("frmRSCalculator"),
+        QStringLiteral("DeleteCourse"), QStringLiteral("frmDeleteGolfer"),
+        QStringLiteral("frmNewGolfer"), QStringLiteral("frmHdcpCalculator"),
     };
     return dialogs.contains(formName);
 }

@@ -31,12 +31,12 @@ void openAndCount(LogGlobals &g)
 bool writable(LogGlobals &g)
 {
     switch (CheckWritable(*g.gConnection)) {
-    case Writability::Writable:
-        return true;
+    case Writability::Writable: return true;
     case Writability::ReadOnly:
         platform().messageBox(
-            QStringLiteral("The Quillon database cannot be changed.  Make sure that you may write to the file "
-                           "%1 and to the folder it is in, then start Quillon for Golf again.")
+            QStringLiteral(
+                "The Quillon database cannot be changed.  Make sure that you may write to the file "
+                "%1 and to the folder it is in, then start Quillon for Golf again.")
                 .arg(QDir::toNativeSeparators(g.gConnection->path())),
             MsgIcon::Critical, appTitle());
         return false;

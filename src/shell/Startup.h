@@ -8,8 +8,8 @@ class MDIForm1;
 class SingleInstance;
 
 enum class StartupOutcome {
-    Exit,           // the process ends now (another instance runs, or the database cannot be opened or written)
-    Locked,         // no database: the frame stands with its menus locked down
+    Exit,   // the process ends now (another instance runs, or the database cannot be opened or written)
+    Locked, // no database: the frame stands with its menus locked down
     ChoosingGolfer, // the database is open and the frame stands; a golfer is asked for next
     Interrupted     // a fault was shown; the frame stays as far as it had got and the program goes on
 };

@@ -22,10 +22,8 @@ int ErrorNumberForEngineCode(int engineCode, const QString &engineText)
             return QuillonError::DuplicateKey;
         break;
     case engine::ReadOnly:
-    case engine::Perm:
-        return QuillonError::PermissionDenied;
-    default:
-        break;
+    case engine::Perm: return QuillonError::PermissionDenied;
+    default: break;
     }
     return kEngineErrorBase + primary;
 }

@@ -57,10 +57,8 @@ bool NumericLineEdit::acceptsKey(int key, const QString &text, Qt::KeyboardModif
     case Qt::Key_Home:
     case Qt::Key_End:
     case Qt::Key_Delete:
-    case Qt::Key_Escape:
-        return true;
-    default:
-        break;
+    case Qt::Key_Escape: return true;
+    default: break;
     }
     // Shortcuts (copy, paste, select all) are not typing; pasted text is filtered after.
     if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))

@@ -57,10 +57,8 @@ QVariant QueryTableModel::data(const QModelIndex &index, int role) const
             return QString();
         return column.format ? column.format(value) : value.toString();
     }
-    case Qt::TextAlignmentRole:
-        return QVariant::fromValue(column.alignment);
-    default:
-        return QVariant();
+    case Qt::TextAlignmentRole: return QVariant::fromValue(column.alignment);
+    default: return QVariant();
     }
 }
 
@@ -69,7 +67,8 @@ QVariant QueryTableModel::headerData(int section, Qt::Orientation orientation, i
     if (role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
     if (orientation == Qt::Horizontal)
-        return section >= 0 && section < m_columns.size() ? QVariant(m_columns.at(section).header) : QVariant();
+        return section >= 0 && section < m_columns.size() ? QVariant(m_columns.at(section).header)
+                                                          : QVariant();
     return QVariant();
 }
 

@@ -12,15 +12,12 @@ SqlStatement ScoreLogStatement(const QString &last, const QString &first, ScoreL
     s.sql = QStringLiteral("SELECT * FROM ScoreLog WHERE LastName = ? AND FirstName = ?");
     s.params = {last, first};
     switch (selection) {
-    case ScoreLogSelection::Used:
-        s.sql += QStringLiteral(" AND (Used='Y' OR Used='C')");
-        break;
+    case ScoreLogSelection::Used: s.sql += QStringLiteral(" AND (Used='Y' OR Used='C')"); break;
     case ScoreLogSelection::CurrentYear:
         s.sql += QStringLiteral(" AND Date>=?");
         s.params << IsoDate(QDate(currentYear, 1, 1));
         break;
-    case ScoreLogSelection::All:
-        break;
+    case ScoreLogSelection::All: break;
     }
     if (!order.isEmpty()) {
         // The order is one of the grid's own sort texts, never typed by a user.
@@ -57,14 +54,15 @@ QString EmptyScoreLogMessage(ScoreLogSelection selection, int currentYear)
 {
     switch (selection) {
     case ScoreLogSelection::CurrentYear:
-        return QStringLiteral("No scores have been recorded for %1.\nSelect View\\View All Scores on the Quillon "
-                              "menu to view all recorded scores.")
+        return QStringLiteral(
+                   "No scores have been recorded for %1.\nSelect View\\View All Scores on the Quillon "
+                   "menu to view all recorded scores.")
             .arg(currentYear);
     case ScoreLogSelection::Used:
-        return QStringLiteral("No scores have been used to calculate your handicap. You must record 5 scores to "
-                              "obtain a handicap.");
-    case ScoreLogSelection::All:
-        break;
+        return QStringLiteral(
+            "No scores have been used to calculate your handicap. You must record 5 scores to "
+            "obtain a handicap.");
+    case ScoreLogSelection::All: break;
     }
     return QStringLiteral("(No scores have been entered)");
 }

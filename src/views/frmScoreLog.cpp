@@ -127,7 +127,8 @@ void frmScoreLog::InitializeForm()
     LogGlobals &g = basLogGlobals();
     if (g.gCommandString == QLatin1String("-h")) {
         const bool noRecord =
-            Scalar(db(), QStringLiteral("SELECT COUNT(*) FROM ScoringRecord WHERE LastName = ? AND FirstName = ?"),
+            Scalar(db(),
+                   QStringLiteral("SELECT COUNT(*) FROM ScoringRecord WHERE LastName = ? AND FirstName = ?"),
                    {g.gLastName, g.gFirstName})
                 .toInt() == 0;
         for (const char *item : {"mnuViewScoringRecord", "mnuPrintScoringRecord"})

@@ -41,8 +41,8 @@ public:
 
 signals:
     // The details of a round were asked for (double-click, Enter, the popup).
-    void scoreDetailsRequested(const QString &course, const QString &tees, const QDate &date, qint64 scoreIndex,
-                               const QVariant &score);
+    void scoreDetailsRequested(const QString &course, const QString &tees, const QDate &date,
+                               qint64 scoreIndex, const QVariant &score);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -17,8 +17,8 @@ protected:
     void SetUp() override
     {
         FrameFixture::SetUp();
-        for (const auto &name : {GolferName{"Palmer", "Arnold"}, GolferName{"O'Brien", "Pat"},
-                                 GolferName{"D'Arcy", "Anne"}}) {
+        for (const auto &name :
+             {GolferName{"Palmer", "Arnold"}, GolferName{"O'Brien", "Pat"}, GolferName{"D'Arcy", "Anne"}}) {
             addGolfer(app.db(), name.last, name.first);
             RoundSpec r;
             r.last = name.last;
@@ -43,9 +43,11 @@ protected:
     {
         int n = 0;
         for (const char *table : {"HandicapLog", "ScoreLog", "ScoreDetails"})
-            n += Scalar(app.db(), QStringLiteral("SELECT COUNT(*) FROM %1 WHERE LastName = ?").arg(QLatin1String(table)),
-                        {last})
-                     .toInt();
+            n +=
+                Scalar(app.db(),
+                       QStringLiteral("SELECT COUNT(*) FROM %1 WHERE LastName = ?").arg(QLatin1String(table)),
+                       {last})
+                    .toInt();
         return n;
     }
 };

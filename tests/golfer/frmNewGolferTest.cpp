@@ -30,7 +30,9 @@ protected:
     QStringList golfers()
     {
         ConnectionPtr c = OpenDatabase(app.file(QStringLiteral("Quillon.qdl")));
-        return columnValues(*c, QStringLiteral("SELECT LastName, FirstName, Gender, Handicap FROM HandicapLog ORDER BY LastName"));
+        return columnValues(
+            *c, QStringLiteral(
+                    "SELECT LastName, FirstName, Gender, Handicap FROM HandicapLog ORDER BY LastName"));
     }
 };
 

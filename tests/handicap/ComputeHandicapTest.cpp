@@ -251,7 +251,8 @@ TEST_F(ComputeHandicapRun, RequeriesTheHeldScoreLogAndHandicapRow)
                        "ORDER BY ScoreIndex"),
         golfer);
     g.gHandicapLog = std::make_unique<HeldRecordset>(
-        basLogGlobals().gConnection, QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer);
+        basLogGlobals().gConnection,
+        QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"), golfer);
 
     ComputeHandicap();
 

@@ -171,17 +171,20 @@ TEST_F(ExitPaths, ReadOnlyDatabaseIsToldAtStartBeforeAnyRoundIsTyped)
     // The user of the program may read the file and its folder but write neither.
     QFile::setPermissions(app.file(QStringLiteral("Quillon.qdl")),
                           QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-    QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner | QFile::ReadGroup |
-                                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner |
+                                         QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
+                                         QFile::ExeOther);
     if (!root)
-        QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
-                                             QFile::ReadOther | QFile::ExeOther);
+        QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                             QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
     // The probe must exist before the folder is closed to writing by a user that is not root.
-    const Ended e = runProgram(app.dir(), QStringLiteral("O'Brien, Pat"), QStringLiteral("close"), QString(), root);
+    const Ended e =
+        runProgram(app.dir(), QStringLiteral("O'Brien, Pat"), QStringLiteral("close"), QString(), root);
     QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     expectCleanEnd(e);
     ASSERT_EQ(e.messages.size(), 1) << e.lines.join('\n').toStdString();
-    EXPECT_TRUE(e.messages[0].startsWith(QStringLiteral("Quillon for Golf|The Quillon database cannot be changed.")))
+    EXPECT_TRUE(
+        e.messages[0].startsWith(QStringLiteral("Quillon for Golf|The Quillon database cannot be changed.")))
         << e.messages[0].toStdString();
     EXPECT_FALSE(e.lines.contains(QStringLiteral("ACTION|close"))) << "no golfer may be chosen";
 }
@@ -198,8 +201,9 @@ TEST_F(ExitPaths, DatabaseLockedByAnotherProgramIsToldAfterAShortWait)
         ASSERT_TRUE(q.exec(QStringLiteral("BEGIN IMMEDIATE")));
         const Ended e = runProgram(app.dir(), QStringLiteral("O'Brien, Pat"), QStringLiteral("close"));
         expectCleanEnd(e);
-        EXPECT_EQ(e.messages, QStringList{"Quillon for Golf|The Quillon database is in use by another program.  "
-                                          "Close that program and start Quillon for Golf again."});
+        EXPECT_EQ(e.messages,
+                  QStringList{"Quillon for Golf|The Quillon database is in use by another program.  "
+                              "Close that program and start Quillon for Golf again."});
         q.exec(QStringLiteral("ROLLBACK"));
         other.close();
     }

@@ -45,8 +45,9 @@ const Row kTable[] = {
 
 MenuInputs inputsFor(int column, qint16 courses)
 {
-    static const char *forms[] = {"frmScoreLog", "frmScoreLog",  "frmCourseInfo",    "frmGolferStats",
-                                  "frmGraphs",   "frmScoringRecord", "frmUltimateScore", "frmViewScoreDetails"};
+    static const char *forms[] = {"frmScoreLog",      "frmScoreLog",        "frmCourseInfo",
+                                  "frmGolferStats",   "frmGraphs",          "frmScoringRecord",
+                                  "frmUltimateScore", "frmViewScoreDetails"};
     MenuInputs in;
     in.formName = QLatin1String(forms[column]);
     in.courseCount = courses;
@@ -64,8 +65,8 @@ TEST(MenuRules, EveryItemOfTheTableForEveryViewAndCourseCount)
         for (int column = 0; column < 8; ++column) {
             const MenuStates s = MenuRulesFor(inputsFor(column, courses));
             for (const Row &row : kTable) {
-                const char *cells[] = {row.logRows, row.stats, row.courseInfo, row.stats,
-                                       row.graphs,  row.record, row.ultimate,  row.details};
+                const char *cells[] = {row.logRows, row.stats,  row.courseInfo, row.stats,
+                                       row.graphs,  row.record, row.ultimate,   row.details};
                 cells[1] = row.logEmpty;
                 const char cell = cells[column][0];
                 const QString item = QLatin1String(row.item);
@@ -200,8 +201,8 @@ TEST_F(FrameMenus, ChoosingTheCheckedViewChangesNothing)
 TEST_F(FrameMenus, WithoutADefaultPrinterEveryPrintItemAnswersWithABoxAndNoPage)
 {
     app.platform().printerName.clear();
-    for (const char *item : {"mnuPrintScorecard", "mnuPrintScoreDetails", "mnuPrintStatistics", "mnuPrintGraph",
-                             "mnuPrintUltimateScorecard"}) {
+    for (const char *item : {"mnuPrintScorecard", "mnuPrintScoreDetails", "mnuPrintStatistics",
+                             "mnuPrintGraph", "mnuPrintUltimateScorecard"}) {
         frame->PrintCommand(QLatin1String(item));
         const auto shown = app.platform().takeMessages();
         ASSERT_EQ(shown.size(), 1) << item;
@@ -214,8 +215,9 @@ TEST_F(FrameMenus, WithoutADefaultPrinterEveryPrintItemAnswersWithABoxAndNoPage)
         frame->PrintCommand(QLatin1String(item));
         const auto shown = app.platform().takeMessages();
         ASSERT_EQ(shown.size(), 1) << item;
-        EXPECT_EQ(shown[0].text, QStringLiteral("Unable to obtain printer information from the system.  Make sure "
-                                                "the printer is set up correctly."));
+        EXPECT_EQ(shown[0].text,
+                  QStringLiteral("Unable to obtain printer information from the system.  Make sure "
+                                 "the printer is set up correctly."));
     }
     EXPECT_TRUE(app.platform().printedFiles().isEmpty());
 }
@@ -224,8 +226,9 @@ TEST_F(FrameMenus, PrintItemsWithoutTheirPrintoutAreNeverOffered)
 {
     addGolfer(app.db(), QStringLiteral("Palmer"), QStringLiteral("Arnold"));
     chooseGolfer(QStringLiteral("Palmer, Arnold"));
-    for (const char *item : {"mnuPrintScorecard", "mnuPrintScoreLog", "mnuPrintScoreDetails", "mnuPrintScoringRecord",
-                             "mnuPrintStatistics", "mnuPrintGraph", "mnuPrintUltimateScorecard"})
+    for (const char *item :
+         {"mnuPrintScorecard", "mnuPrintScoreLog", "mnuPrintScoreDetails", "mnuPrintScoringRecord",
+          "mnuPrintStatistics", "mnuPrintGraph", "mnuPrintUltimateScorecard"})
         EXPECT_EQ(enabled(QLatin1String(item)), frame->isBuilt(QLatin1String(item))) << item;
 }
 
@@ -236,8 +239,9 @@ TEST_F(FrameMenus, ClosingWithUnsavedInputAsksAndKeepsTheFrameOnNo)
     entry.show();
     app.platform().answer(MsgAnswer::No);
     EXPECT_FALSE(frame->close());
-    expectMessages(app.platform(), {"You have entered information that has not been saved.  Close Quillon for "
-                                    "Golf and lose it?"});
+    expectMessages(app.platform(),
+                   {"You have entered information that has not been saved.  Close Quillon for "
+                    "Golf and lose it?"});
     EXPECT_TRUE(frame->isVisible());
     EXPECT_NE(basLogGlobals().gConnection, nullptr);
     entry.setProperty("unsavedInput", false);

@@ -25,7 +25,8 @@ class ProbePlatform : public DesktopPlatform {
 public:
     ProbePlatform()
     {
-        for (const QString &a : qEnvironmentVariable("QUILLON_PROBE_ANSWERS").split(QLatin1Char(','), Qt::SkipEmptyParts))
+        for (const QString &a :
+             qEnvironmentVariable("QUILLON_PROBE_ANSWERS").split(QLatin1Char(','), Qt::SkipEmptyParts))
             m_answers << a.trimmed().toLower();
     }
 
@@ -33,7 +34,8 @@ protected:
     MsgAnswer showMessageBox(const QString &text, MsgIcon, const QString &title, MsgButtons,
                              MsgAnswer defaultButton) override
     {
-        std::printf("MESSAGE|%s|%s|%s\n", qPrintable(title), qPrintable(text), pointerBusy() ? "busy" : "normal");
+        std::printf("MESSAGE|%s|%s|%s\n", qPrintable(title), qPrintable(text),
+                    pointerBusy() ? "busy" : "normal");
         std::fflush(stdout);
         if (m_answers.isEmpty())
             return defaultButton;
@@ -88,15 +90,19 @@ void playUser()
     std::printf("ACTION|%s\n", qPrintable(action));
     std::fflush(stdout);
     if (action == QLatin1String("exit-menu"))
-        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuCourseExit")), "trigger", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuCourseExit")), "trigger",
+                                  Qt::QueuedConnection);
     else if (action == QLatin1String("close"))
         QMetaObject::invokeMethod(frame, "close", Qt::QueuedConnection);
     else if (action == QLatin1String("help"))
-        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpContents")), "trigger", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpContents")), "trigger",
+                                  Qt::QueuedConnection);
     else if (action == QLatin1String("about"))
-        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpAbout")), "trigger", Qt::QueuedConnection);
+        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpAbout")), "trigger",
+                                  Qt::QueuedConnection);
     else if (action == QLatin1String("sort"))
-        QMetaObject::invokeMethod(frame->findChild<QHeaderView *>(), "sectionClicked", Qt::QueuedConnection, Q_ARG(int, 2));
+        QMetaObject::invokeMethod(frame->findChild<QHeaderView *>(), "sectionClicked", Qt::QueuedConnection,
+                                  Q_ARG(int, 2));
     else if (action == QLatin1String("quit"))
         QMetaObject::invokeMethod(QCoreApplication::instance(), "quit", Qt::QueuedConnection);
 }

@@ -174,8 +174,8 @@ TEST_F(Startup, NoDatabaseShowsTheMissingMessageAndLocksTheFrame)
     EXPECT_EQ(shown[0].icon, MsgIcon::Critical);
     MDIForm1 &f = MDIForm1::instance();
     // Of these, the commands whose screens are in this build; the others stand disabled.
-    QStringList usable = {"mnuCourseExit",   "mnuDatabaseRestore", "mnuFilePrintSetup",
-                          "mnuHelpAbout",    "mnuHelpContents",    "mnuToolsCourseHdcpCalculator"};
+    QStringList usable = {"mnuCourseExit", "mnuDatabaseRestore", "mnuFilePrintSetup",
+                          "mnuHelpAbout",  "mnuHelpContents",    "mnuToolsCourseHdcpCalculator"};
     usable.removeIf([&f](const QString &item) { return !f.isBuilt(item); });
     EXPECT_TRUE(usable.contains("mnuCourseExit") && usable.contains("mnuHelpContents"));
     EXPECT_EQ(reachableCommands(), usable);

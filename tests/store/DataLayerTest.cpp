@@ -100,9 +100,13 @@ TEST(Statements, RunGivesAHandleOfItsOwnNeverAReferenceIntoTheCache)
     static_assert(!std::is_copy_constructible_v<Statement>, "a run is not shared");
     TestApp app;
     EXPECT_EQ(app.db().cachedStatements(), 0);
-    { Statement s = app.db().run(QStringLiteral("SELECT 1")); }
+    {
+        Statement s = app.db().run(QStringLiteral("SELECT 1"));
+    }
     EXPECT_EQ(app.db().cachedStatements(), 1) << "the statement goes back when the run ends";
-    { Statement s = app.db().run(QStringLiteral("SELECT 1")); }
+    {
+        Statement s = app.db().run(QStringLiteral("SELECT 1"));
+    }
     EXPECT_EQ(app.db().cachedStatements(), 1) << "and is used again";
 }
 
@@ -210,8 +214,8 @@ TEST(ErrorNumbers, SyntaxFaultIsNumberedClearOfTheLanguagesOwn)
 TEST(ErrorNumbers, EveryEngineCodeHasANumberOfItsOwn)
 {
     QSet<int> seen;
-    for (int code : {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14, 15,  16, 17,
-                     18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 100, 101}) {
+    for (int code : {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12, 13, 14,  15,
+                     16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 100, 101}) {
         const int n = ErrorNumberForEngineCode(code, QStringLiteral("some failure"));
         EXPECT_NE(n, QuillonError::Overflow) << code;
         EXPECT_NE(n, QuillonError::DivisionByZero) << code;

@@ -230,7 +230,8 @@ TEST(Database, CommittedDataLivesInTheFileItself)
 TEST(Database, HeldRecordsetSeesNewRowsOnRequery)
 {
     TestApp app;
-    HeldRecordset held(basLogGlobals().gConnection, QStringLiteral("SELECT LastName FROM HandicapLog WHERE LastName = ?"),
+    HeldRecordset held(basLogGlobals().gConnection,
+                       QStringLiteral("SELECT LastName FROM HandicapLog WHERE LastName = ?"),
                        {QStringLiteral("O'Neil")});
     EXPECT_TRUE(held.rows().eof());
     int signals_ = 0;

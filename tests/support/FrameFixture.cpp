@@ -36,16 +36,17 @@ void FrameFixture::chooseGolfer(const QString &typed, bool isNew)
         findControl<QPushButton>(dialog, QStringLiteral("cmdOK"))->click();
     });
     if (isNew)
-        script.expect(QStringLiteral("frmGender"),
-                      [](QWidget *dialog) { findControl<QPushButton>(dialog, QStringLiteral("cmdOK"))->click(); });
+        script.expect(QStringLiteral("frmGender"), [](QWidget *dialog) {
+            findControl<QPushButton>(dialog, QStringLiteral("cmdOK"))->click();
+        });
     frmNewGolfer::instance().GetNewGolfer();
 }
 
 QStringList FrameFixture::checkedViews() const
 {
     QStringList out;
-    for (const char *name : {"mnuViewScoreLog", "mnuViewScoringRecord", "mnuViewGolferStatistics", "mnuViewGraphs",
-                             "mnuViewUltimateScorecard", "mnuViewCourseInfo"})
+    for (const char *name : {"mnuViewScoreLog", "mnuViewScoringRecord", "mnuViewGolferStatistics",
+                             "mnuViewGraphs", "mnuViewUltimateScorecard", "mnuViewCourseInfo"})
         if (item(QLatin1String(name))->isChecked())
             out << QLatin1String(name);
     return out;

@@ -21,11 +21,11 @@ struct KeyCase {
 TEST(NumericLineEdit, KeysTakenAndDiscardedFromATable)
 {
     const KeyCase cases[] = {
-        {Qt::Key_0, "0", true},          {Qt::Key_5, "5", true},          {Qt::Key_9, "9", true},
-        {Qt::Key_Backspace, "\b", true}, {Qt::Key_Return, "\r", true},    {Qt::Key_Enter, "\r", true},
-        {Qt::Key_A, "a", false},         {Qt::Key_Minus, "-", false},     {Qt::Key_Period, ".", false},
-        {Qt::Key_Space, " ", false},     {Qt::Key_Comma, ",", false},     {Qt::Key_Apostrophe, "'", false},
-        {Qt::Key_Tab, "\t", true},       {Qt::Key_Left, "", true},        {Qt::Key_Delete, "", true},
+        {Qt::Key_0, "0", true},          {Qt::Key_5, "5", true},       {Qt::Key_9, "9", true},
+        {Qt::Key_Backspace, "\b", true}, {Qt::Key_Return, "\r", true}, {Qt::Key_Enter, "\r", true},
+        {Qt::Key_A, "a", false},         {Qt::Key_Minus, "-", false},  {Qt::Key_Period, ".", false},
+        {Qt::Key_Space, " ", false},     {Qt::Key_Comma, ",", false},  {Qt::Key_Apostrophe, "'", false},
+        {Qt::Key_Tab, "\t", true},       {Qt::Key_Left, "", true},     {Qt::Key_Delete, "", true},
     };
     for (const KeyCase &c : cases)
         EXPECT_EQ(NumericLineEdit::acceptsKey(c.key, QString::fromLatin1(c.text), Qt::NoModifier), c.accepted)

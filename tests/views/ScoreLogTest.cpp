@@ -1,6 +1,6 @@
-#include "views/frmScoreLog.h"
 #include "FrameFixture.h"
 #include "views/ScoreLogQuery.h"
+#include "views/frmScoreLog.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -25,15 +25,16 @@ TEST(ScoreLogQuery, OnlyTheEightColumnsSort)
     QStringList sorts;
     for (int c = 0; c < 18; ++c)
         sorts << ScoreLogSortColumn(c);
-    EXPECT_EQ(sorts, (QStringList{"", "", "Coursename", "Tees", "Date", "", "Holes", "AdjustedScore", "Rating",
-                                  "Slope", "", "Differential", "", "", "", "", "", ""}));
+    EXPECT_EQ(sorts, (QStringList{"", "", "Coursename", "Tees", "Date", "", "Holes", "AdjustedScore",
+                                  "Rating", "Slope", "", "Differential", "", "", "", "", "", ""}));
 }
 
 TEST(ScoreLogQuery, StatementsOfTheThreeSelections)
 {
     SqlStatement s = ScoreLogStatement("O'Brien", "Pat", ScoreLogSelection::All, 2026, "Date DESC");
-    EXPECT_EQ(s.sql, QStringLiteral("SELECT * FROM ScoreLog WHERE LastName = ? AND FirstName = ? ORDER BY Date "
-                                    "DESC, ScoreIndex DESC"));
+    EXPECT_EQ(s.sql,
+              QStringLiteral("SELECT * FROM ScoreLog WHERE LastName = ? AND FirstName = ? ORDER BY Date "
+                             "DESC, ScoreIndex DESC"));
     EXPECT_EQ(s.params, (Params{"O'Brien", "Pat"}));
     s = ScoreLogStatement("O'Brien", "Pat", ScoreLogSelection::Used, 2026, "Tees ASC");
     EXPECT_TRUE(s.sql.contains(QStringLiteral("AND (Used='Y' OR Used='C') ORDER BY Tees ASC, ScoreIndex")));
@@ -52,9 +53,10 @@ TEST(ScoreLogQuery, ColumnsCaptionsFormatsAndHiddenOnes)
         if (c.hidden)
             hidden << c.field;
     }
-    EXPECT_EQ(captions, (QStringList{"LastName", "FirstName", "Course", "Tees", "Date", "ScoreIndex", "Holes",
-                                     "Adj. Score", "Course Rating", "Slope Rating", "Type", "Differential", "Used",
-                                     "Penalties", "LostBalls", "Bunkers", "SandSaves", "AttemptedSaves"}));
+    EXPECT_EQ(captions,
+              (QStringList{"LastName", "FirstName", "Course", "Tees", "Date", "ScoreIndex", "Holes",
+                           "Adj. Score", "Course Rating", "Slope Rating", "Type", "Differential", "Used",
+                           "Penalties", "LostBalls", "Bunkers", "SandSaves", "AttemptedSaves"}));
     EXPECT_EQ(hidden, (QStringList{"LastName", "FirstName", "ScoreIndex"}));
     EXPECT_EQ(columns[8].format(QVariant(71.0)), QStringLiteral("71.0"));
     EXPECT_EQ(columns[11].format(QVariant(0.4)), QStringLiteral(".4"));
@@ -87,7 +89,10 @@ protected:
         addGolfer(app.db(), QStringLiteral("O'Brien"), QStringLiteral("Pat"));
         chooseGolfer(QStringLiteral("O'Brien, Pat"));
     }
-    frmScoreLog *log() { return qobject_cast<frmScoreLog *>(frame->views().loaded(QStringLiteral("frmScoreLog"))); }
+    frmScoreLog *log()
+    {
+        return qobject_cast<frmScoreLog *>(frame->views().loaded(QStringLiteral("frmScoreLog")));
+    }
     QTableView *grid() { return findControl<QTableView>(log(), QStringLiteral("DBGrid1")); }
     QLabel *message() { return findControl<QLabel>(log(), QStringLiteral("lblMessage")); }
     QStringList column(int c)
@@ -170,8 +175,9 @@ TEST_F(ScoreLog, UsedViewWithNoneUsedShowsTheTwoSentences)
     item("mnuViewUsed")->trigger();
     EXPECT_TRUE(item("mnuViewUsed")->isChecked());
     EXPECT_FALSE(item("mnuViewAll")->isChecked());
-    EXPECT_EQ(message()->text(), QStringLiteral("No scores have been used to calculate your handicap. You must "
-                                                "record 5 scores to obtain a handicap."));
+    EXPECT_EQ(message()->text(),
+              QStringLiteral("No scores have been used to calculate your handicap. You must "
+                             "record 5 scores to obtain a handicap."));
     EXPECT_FALSE(grid()->isVisible());
     item("mnuViewAll")->trigger();
     EXPECT_TRUE(grid()->isVisible());
@@ -183,8 +189,9 @@ TEST_F(ScoreLog, CurrentYearViewTellsTheYearWhenEmpty)
     addRounds(2);
     choose();
     item("mnuViewCurrent")->trigger();
-    EXPECT_EQ(message()->text(), QStringLiteral("No scores have been recorded for 2026.\nSelect View\\View All "
-                                                "Scores on the Quillon menu to view all recorded scores."));
+    EXPECT_EQ(message()->text(),
+              QStringLiteral("No scores have been recorded for 2026.\nSelect View\\View All "
+                             "Scores on the Quillon menu to view all recorded scores."));
 }
 
 TEST_F(ScoreLog, DoubleClickAndEnterAskForTheDetailsOfTheRow)
