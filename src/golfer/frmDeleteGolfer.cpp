@@ -1,6 +1,7 @@
 #include "frmDeleteGolfer.h"
 
 #include "DialogPlacement.h"
+#include "GolferListDialog.h"
 #include "GolferNames.h"
 #include "frmNewGolfer.h"
 #include "platform/Hourglass.h"
@@ -9,49 +10,23 @@
 #include "ui/FormInstance.h"
 #include "ui/Guarded.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace quillon {
 
 frmDeleteGolfer::frmDeleteGolfer(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmDeleteGolfer"));
-    setWindowTitle(QStringLiteral("Delete Golfer"));
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-
-    m_lblInstructions = new QLabel(QStringLiteral("Select the golfer to delete and press OK."), this);
-    m_lblInstructions->setObjectName(QStringLiteral("lblInstructions"));
-    m_label1 = new QLabel(QStringLiteral("Golfer:"), this);
-    m_label1->setObjectName(QStringLiteral("Label1"));
-    m_lstGolferList = new QListWidget(this);
-    m_lstGolferList->setObjectName(QStringLiteral("lstGolferList"));
+    const GolferListControls c = BuildGolferListDialog(
+        *this, QStringLiteral("Delete Golfer"), QStringLiteral("Select the golfer to delete and press OK."),
+        QStringLiteral("Golfer:"), QStringLiteral("&Cancel"));
+    m_lstGolferList = c.lstGolferList;
+    m_cmdOK = c.cmdOK;
+    m_cmdCancel = c.cmdCancel;
     m_lstGolferList->setSelectionMode(QAbstractItemView::MultiSelection);
-    m_label1->setBuddy(m_lstGolferList);
-    m_cmdOK = new QPushButton(QStringLiteral("&OK"), this);
-    m_cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    m_cmdOK->setEnabled(false);
     m_cmdOK->setDefault(true);
-    m_cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    m_cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-
-    auto *buttons = new QVBoxLayout;
-    buttons->addWidget(m_cmdOK);
-    buttons->addWidget(m_cmdCancel);
-    buttons->addStretch();
-    auto *entry = new QVBoxLayout;
-    entry->addWidget(m_label1);
-    entry->addWidget(m_lstGolferList, 1);
-    auto *row = new QHBoxLayout;
-    row->addLayout(entry, 1);
-    row->addLayout(buttons);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_lblInstructions);
-    layout->addLayout(row, 1);
-    resize(400, 320);
 
     connect(m_lstGolferList, &QListWidget::itemSelectionChanged, this,
             [this] { m_cmdOK->setEnabled(!m_lstGolferList->selectedItems().isEmpty()); });
@@ -71,7 +46,6 @@ frmDeleteGolfer &frmDeleteGolfer::instance()
 void frmDeleteGolfer::DeleteGolfer()
 {
     m_currentGolferGone = false;
-    m_deletedAny = false;
     m_lstGolferList->clear();
     if (!RunGuarded([this] {
             m_lstGolferList->addItems(GolferListItems(db()));
@@ -115,7 +89,6 @@ void frmDeleteGolfer::cmdOK_Click()
                                       MsgAnswer::No) != MsgAnswer::Yes)
                 continue;
             DeleteGolferRows(db(), name.last, name.first);
-            m_deletedAny = true;
             if (name.last == g.gLastName && name.first == g.gFirstName)
                 m_currentGolferGone = true;
         }

@@ -2,7 +2,6 @@
 
 #include <QDialog>
 
-class QLabel;
 class QListWidget;
 class QPushButton;
 
@@ -23,14 +22,11 @@ public:
     void cmdCancel_Click();
 
 private:
-    QLabel *m_lblInstructions = nullptr;
-    QLabel *m_label1 = nullptr;
     QListWidget *m_lstGolferList = nullptr;
     QPushButton *m_cmdOK = nullptr;
     QPushButton *m_cmdCancel = nullptr;
     // What follows the dialog: the golfer dialog when the current golfer went, else the view again.
     bool m_currentGolferGone = false;
-    bool m_deletedAny = false;
 };
 
 } // namespace quillon

@@ -1,7 +1,7 @@
 #include "frmNewGolfer.h"
 
 #include "DialogPlacement.h"
-#include "core/Format.h"
+#include "GolferListDialog.h"
 #include "handicap/Handicap.h"
 #include "platform/Hourglass.h"
 #include "platform/Platform.h"
@@ -10,58 +10,30 @@
 #include "ui/Guarded.h"
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace quillon {
 
 frmNewGolfer::frmNewGolfer(QWidget *parent) : QDialog(parent)
 {
     setObjectName(QStringLiteral("frmNewGolfer"));
-    setWindowTitle(QStringLiteral("New Golfer"));
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-
-    m_lblInstructions =
-        new QLabel(QStringLiteral("Enter the name of a new golfer or select a golfer from the list."), this);
-    m_lblInstructions->setObjectName(QStringLiteral("lblInstructions"));
-    m_lblInstructions->setWordWrap(true);
-    m_label1 = new QLabel(QStringLiteral("Golfer (Last name, First name):"), this);
-    m_label1->setObjectName(QStringLiteral("Label1"));
     m_txtGolfer = new QLineEdit(this);
     m_txtGolfer->setObjectName(QStringLiteral("txtGolfer"));
-    m_label1->setBuddy(m_txtGolfer);
-    m_lstGolferList = new QListWidget(this);
-    m_lstGolferList->setObjectName(QStringLiteral("lstGolferList"));
+    const GolferListControls c = BuildGolferListDialog(
+        *this, QStringLiteral("New Golfer"),
+        QStringLiteral("Enter the name of a new golfer or select a golfer from the list."),
+        QStringLiteral("Golfer (Last name, First name):"), QStringLiteral("E&xit"), m_txtGolfer);
+    m_lstGolferList = c.lstGolferList;
+    m_cmdOK = c.cmdOK;
+    m_cmdCancel = c.cmdCancel;
     m_lstGolferList->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_cmdOK = new QPushButton(QStringLiteral("&OK"), this);
-    m_cmdOK->setObjectName(QStringLiteral("cmdOK"));
-    m_cmdOK->setEnabled(false);
-    m_cmdCancel = new QPushButton(QStringLiteral("E&xit"), this);
-    m_cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     // Enter belongs to the name box and the list, which run OK themselves.
     m_cmdOK->setAutoDefault(false);
     m_cmdCancel->setAutoDefault(false);
-
-    auto *buttons = new QVBoxLayout;
-    buttons->addWidget(m_cmdOK);
-    buttons->addWidget(m_cmdCancel);
-    buttons->addStretch();
-    auto *entry = new QVBoxLayout;
-    entry->addWidget(m_label1);
-    entry->addWidget(m_txtGolfer);
-    entry->addWidget(m_lstGolferList, 1);
-    auto *row = new QHBoxLayout;
-    row->addLayout(entry, 1);
-    row->addLayout(buttons);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(m_lblInstructions);
-    layout->addLayout(row, 1);
-    resize(420, 320);
 
     setTabOrder(m_txtGolfer, m_lstGolferList);
     setTabOrder(m_lstGolferList, m_cmdOK);
@@ -174,9 +146,8 @@ void frmNewGolfer::ActivateGolfer(bool isNew)
 {
     LogGlobals &g = basLogGlobals();
     FrameServices &f = frame();
-    const Params golfer = {g.gLastName, g.gFirstName};
-    g.gScoreLog = std::make_unique<HeldRecordset>(
-        g.gConnection, QStringLiteral("SELECT * FROM ScoreLog WHERE LastName=? AND FirstName=?"), golfer);
+    // The golfer's rounds are read by the score log when it opens: that view owns their statement.
+    g.gScoreLog.reset();
     f.setPanelText(QStringLiteral("GolferName"),
                    QStringLiteral("Golfer: %1 %2").arg(g.gFirstName, g.gLastName));
     f.menuItem(QStringLiteral("mnuViewScoreLog"))->setChecked(true);
@@ -185,23 +156,17 @@ void frmNewGolfer::ActivateGolfer(bool isNew)
         f.menuItem(QLatin1String(item))->setChecked(false);
     g.gHandicapLog = std::make_unique<HeldRecordset>(
         g.gConnection, QStringLiteral("SELECT * FROM HandicapLog WHERE LastName = ? AND FirstName = ?"),
-        golfer);
+        Params{g.gLastName, g.gFirstName});
     if (g.gCommandString == QLatin1String("-h") && !isNew)
         ComputeHandicap();
 
     Recordset &row = g.gHandicapLog->rows();
-    QString text = QStringLiteral("Handicap: (not calculated)");
-    bool calculator = false;
+    float value = kNoHandicap;
     if (!row.eof()) {
         row.moveFirst();
-        const float value = row.value(QStringLiteral("Handicap")).toFloat();
-        if (value != kNoHandicap) {
-            text = QStringLiteral("Handicap: ") + Format(value, QStringLiteral("###.0"));
-            calculator = true;
-        }
+        value = row.value(QStringLiteral("Handicap")).toFloat();
     }
-    f.setPanelText(QStringLiteral("Handicap"), text);
-    f.menuItem(QStringLiteral("mnuToolsCourseHdcpCalculator"))->setEnabled(calculator);
+    ShowHandicap(value);
 
     m_closing = true;
     accept();

@@ -4,7 +4,6 @@
 
 #include <QDialog>
 
-class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
@@ -35,8 +34,6 @@ private:
     void ActivateGolfer(bool isNew);
     int selectedRow() const;
 
-    QLabel *m_lblInstructions = nullptr;
-    QLabel *m_label1 = nullptr;
     QLineEdit *m_txtGolfer = nullptr;
     QListWidget *m_lstGolferList = nullptr;
     QPushButton *m_cmdOK = nullptr;

@@ -103,29 +103,27 @@ struct GenderNeeded {};
 
 enum class WhenUnknown { Ask, GiveUp };
 
-void askGender(GolferScores &scores)
+QString askGender(GolferScores &scores)
 {
     GenderQuestion *question = basLogGlobals().genderQuestion;
     if (!question)
         throw QuillonError(91, QStringLiteral("Object variable or With block variable not set"));
-    scores.storeGender(question->GetGender(scores.firstName(), scores.lastName()));
+    const QString answer = question->GetGender(scores.firstName(), scores.lastName());
+    scores.storeGender(answer);
+    return answer;
 }
 
 // The gender the cap goes by.
 QString genderFor(GolferScores &scores, WhenUnknown whenUnknown)
 {
-    std::optional<QVariant> stored = scores.gender();
+    const std::optional<QVariant> stored = scores.gender();
     if (!stored) // no golfer row: PublishHandicap will say so
         return QString();
-    if (stored->isNull()) {
-        if (whenUnknown == WhenUnknown::GiveUp)
-            throw GenderNeeded();
-        askGender(scores);
-        stored = scores.gender();
-        if (!stored || stored->isNull())
-            return QString();
-    }
-    return stored->toString();
+    if (!stored->isNull())
+        return stored->toString();
+    if (whenUnknown == WhenUnknown::GiveUp)
+        throw GenderNeeded();
+    return askGender(scores);
 }
 
 float indexFromUsed(GolferScores &scores, const QVector<QVariant> &used, WhenUnknown whenUnknown)
@@ -148,19 +146,22 @@ void showHandicap(float value, bool rowFound)
         platform().messageBox(QStringLiteral("Database Error: Unable to locate golfer's handicap record."),
                               MsgIcon::Exclamation, appTitle(), MsgButtons::OK, MsgAnswer::OK);
     requery(g.gHandicapLog);
-    HandicapDisplay *display = g.handicapDisplay;
-    if (!display)
-        return;
-    if (value != kNoHandicap) {
-        display->setHandicapPanel(QStringLiteral("Handicap: ") + Format(value, QStringLiteral("###.0")));
-        display->setCourseHdcpCalculatorEnabled(true);
-    } else {
-        display->setHandicapPanel(QStringLiteral("Handicap: (not calculated)"));
-        display->setCourseHdcpCalculatorEnabled(false);
-    }
+    ShowHandicap(value);
 }
 
 } // namespace
+
+void ShowHandicap(float value)
+{
+    HandicapDisplay *display = basLogGlobals().handicapDisplay;
+    if (!display)
+        return;
+    const bool calculated = value != kNoHandicap;
+    display->setHandicapPanel(calculated
+                                  ? QStringLiteral("Handicap: ") + Format(value, QStringLiteral("###.0"))
+                                  : QStringLiteral("Handicap: (not calculated)"));
+    display->setCourseHdcpCalculatorEnabled(calculated);
+}
 
 qint16 DifferentialsUsed(int scores)
 {

@@ -20,6 +20,8 @@ void BuildScoringRecord();
 void MarkUsedScores(qint16 &count, Recordset &records);
 float AverageDifferentials();
 void PublishHandicap(float value);
+// The "Handicap" panel and the course handicap calculator item for an index (or kNoHandicap).
+void ShowHandicap(float value);
 
 // How many differentials count for a number of scores in the record.
 qint16 DifferentialsUsed(int scores);

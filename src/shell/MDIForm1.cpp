@@ -21,7 +21,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -353,12 +352,9 @@ void MDIForm1::ShowScoreLog()
     m_views->show(QStringLiteral("frmScoreLog"));
 }
 
-void MDIForm1::UnloadForms(QWidget *keep)
+void MDIForm1::UnloadForms()
 {
     m_views->unloadAllBut();
-    for (QMdiSubWindow *w : m_mdiArea->subWindowList(QMdiArea::CreationOrder))
-        if (w->widget() != keep)
-            w->close();
 }
 
 void MDIForm1::EndProgram()

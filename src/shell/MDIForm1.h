@@ -59,7 +59,7 @@ public:
     void RefreshActiveView() override;
     void setPanelText(const QString &key, const QString &text) override;
     void ShowScoreLog() override;
-    void UnloadForms(QWidget *keep = nullptr) override;
+    void UnloadForms() override;
     void EndProgram() override;
     QWidget *frameWidget() override { return this; }
 

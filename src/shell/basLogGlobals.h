@@ -27,8 +27,8 @@ public:
     virtual void setPanelText(const QString &key, const QString &text) = 0;
     // The score log, maximized in the frame.
     virtual void ShowScoreLog() = 0;
-    // Unload every form but the frame and `keep`, from the last opened to the first.
-    virtual void UnloadForms(QWidget *keep = nullptr) = 0;
+    // Unload every view of the frame.
+    virtual void UnloadForms() = 0;
     // End the program now, releasing what it holds.
     virtual void EndProgram() = 0;
     virtual QWidget *frameWidget() = 0;

@@ -37,7 +37,6 @@ public:
             m_idle.pop_back();
     }
 
-    void clear() { m_idle.clear(); }
     int size() const { return int(m_idle.size()); }
 
 private:
@@ -142,8 +141,7 @@ bool Connection::open()
 
 void Connection::close()
 {
-    m_cache->clear();
-    // Statements still out belong to a closed file now: they are not taken back.
+    // A new cache: statements still out belong to the closed file and are not taken back.
     m_cache = std::make_shared<StatementCache>();
     QSqlDatabase db = database();
     if (db.isValid() && db.isOpen())

@@ -148,16 +148,14 @@ void frmScoreLog::FormActivate()
 
 void frmScoreLog::ViewSelection(ScoreLogSelection selection)
 {
-    RunGuarded([this, selection] {
-        rememberRow(selectedRow());
-        openRows(selection);
-        const char *items[] = {"mnuViewAll", "mnuViewUsed", "mnuViewCurrent"};
-        for (int i = 0; i < 3; ++i)
-            if (QAction *a = frame().menuItem(QLatin1String(items[i])))
-                a->setChecked(i == int(selection));
-        showRowsOrMessage(selection);
-        restoreRow();
-    });
+    rememberRow(selectedRow());
+    openRows(selection);
+    const char *items[] = {"mnuViewAll", "mnuViewUsed", "mnuViewCurrent"};
+    for (int i = 0; i < 3; ++i)
+        if (QAction *a = frame().menuItem(QLatin1String(items[i])))
+            a->setChecked(i == int(selection));
+    showRowsOrMessage(selection);
+    restoreRow();
 }
 
 void frmScoreLog::headingClicked(int column)

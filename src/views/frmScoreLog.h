@@ -25,7 +25,7 @@ public:
     void FormActivate() override;
     QString ScoreLogSort() const { return m_sortOrder; }
 
-    // The View items All, Used and Current Year.
+    // The View items All, Used and Current Year (run under the menu item's error trap).
     void ViewSelection(ScoreLogSelection selection);
 
     // The selected round's values by column name; invalid when no row is selected.

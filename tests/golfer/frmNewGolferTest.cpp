@@ -133,16 +133,8 @@ TEST_F(NewGolfer, StoredNameTypedInCapitalsChoosesTheStoredGolferWithoutAQuestio
 TEST_F(NewGolfer, ExistingGolferHasTheHandicapRunAndShown)
 {
     addGolfer(app.db(), QStringLiteral("O'Brien"), QStringLiteral("Pat"), QStringLiteral("M"));
-    QDate day(2026, 3, 1);
-    for (double d : {10.0, 12.5, 9.2, 14.1, 11.0}) {
-        RoundSpec r;
-        r.last = QStringLiteral("O'Brien");
-        r.first = QStringLiteral("Pat");
-        r.date = day;
-        r.differential = d;
-        addRound(app.db(), r);
-        day = day.addDays(7);
-    }
+    addWeeklyRounds(app.db(), QStringLiteral("O'Brien"), QStringLiteral("Pat"), QDate(2026, 3, 1),
+                    {10.0, 12.5, 9.2, 14.1, 11.0});
     chooseGolfer(QStringLiteral("o'brien, pat"));
     EXPECT_EQ(panelText("Handicap"), QStringLiteral("Handicap: 8.8"));
     EXPECT_EQ(Scalar(app.db(), QStringLiteral("SELECT Handicap FROM HandicapLog")).toDouble(), 8.8);

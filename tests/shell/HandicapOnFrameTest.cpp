@@ -26,16 +26,8 @@ protected:
 
     void addRounds(const QVector<double> &differentials)
     {
-        QDate day(2026, 3, 1);
-        for (double d : differentials) {
-            RoundSpec r;
-            r.last = QStringLiteral("O'Brien");
-            r.first = QStringLiteral("Pat");
-            r.date = day;
-            r.differential = d;
-            addRound(app.db(), r);
-            day = day.addDays(7);
-        }
+        addWeeklyRounds(app.db(), QStringLiteral("O'Brien"), QStringLiteral("Pat"), QDate(2026, 3, 1),
+                        differentials);
     }
 
     QString panelText() { return MDIForm1::instance().panel(QStringLiteral("Handicap"))->text(); }

@@ -1,9 +1,10 @@
 // The program itself, with the desktop's message boxes replaced by lines on standard output
 // and a scripted user: tests start it as a real process and read how it ended.
 //
-//   QUILLON_PROBE_GOLFER   the name typed into the golfer dialog ("Exit" presses its Exit)
+//   QUILLON_PROBE_GOLFER   the name typed into the golfer dialog ("Exit" presses its Exit);
+//                          unset, the dialog is left for the person at the screen
 //   QUILLON_PROBE_ACTION   what the user does once the program runs: exit-menu, close, quit,
-//                          help, about, sort (a click on the Course heading)
+//                          help, about, sort (a click on the Course heading), delete-golfer
 //   QUILLON_PROBE_ANSWERS  answers to the message boxes in order (yes, no, ok, cancel)
 #include "desktop/DesktopPlatform.h"
 #include "shell/MDIForm1.h"
@@ -14,6 +15,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 #include <QTimer>
 #include <cstdio>
 
@@ -68,7 +70,8 @@ void playUser()
     QWidget *modal = QApplication::activeModalWidget();
     if (qEnvironmentVariableIsSet("QUILLON_PROBE_TRACE"))
         std::printf("TRACE|%s\n", modal ? qPrintable(modal->objectName()) : "-");
-    if (modal && modal->objectName() == QLatin1String("frmNewGolfer")) {
+    if (modal && modal->objectName() == QLatin1String("frmNewGolfer") &&
+        qEnvironmentVariableIsSet("QUILLON_PROBE_GOLFER")) {
         const QString golfer = qEnvironmentVariable("QUILLON_PROBE_GOLFER");
         if (golfer == QLatin1String("Exit")) {
             press(modal, "cmdCancel");
@@ -101,8 +104,12 @@ void playUser()
         QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuHelpAbout")), "trigger",
                                   Qt::QueuedConnection);
     else if (action == QLatin1String("sort"))
-        QMetaObject::invokeMethod(frame->findChild<QHeaderView *>(), "sectionClicked", Qt::QueuedConnection,
-                                  Q_ARG(int, 2));
+        QMetaObject::invokeMethod(
+            frame->findChild<QTableView *>(QStringLiteral("DBGrid1"))->horizontalHeader(), "sectionClicked",
+            Qt::QueuedConnection, Q_ARG(int, 2));
+    else if (action == QLatin1String("delete-golfer"))
+        QMetaObject::invokeMethod(frame->menuItem(QStringLiteral("mnuDeleteGolfer")), "trigger",
+                                  Qt::QueuedConnection);
     else if (action == QLatin1String("quit"))
         QMetaObject::invokeMethod(QCoreApplication::instance(), "quit", Qt::QueuedConnection);
 }

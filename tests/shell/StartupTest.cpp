@@ -1,18 +1,22 @@
 #include "shell/Startup.h"
 #include "Fixtures.h"
 #include "TestApp.h"
+#include "Widgets.h"
 #include "shell/MDIForm1.h"
 #include "shell/SingleInstance.h"
 
 #include <QApplication>
 #include <QCryptographicHash>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenu>
 #include <QProcess>
+#include <QPushButton>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QThread>
@@ -146,6 +150,25 @@ TEST_F(Startup, FreshInstallTakesTheUpdateFileOverAndStandsReadyForAGolfer)
     EXPECT_EQ(MDIForm1::instance().windowTitle(), QStringLiteral("Quillon for Golf"));
     EXPECT_FALSE(MDIForm1::instance().windowFlags() & Qt::WindowMaximizeButtonHint);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass is off";
+}
+
+TEST_F(Startup, FreshInstallAsksForTheFirstGolferWithAnEmptyListAndExit)
+{
+    app.layDatabase(QStringLiteral("Update.qdl"));
+    ASSERT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    int rows = -1;
+    QString cancel;
+    ModalScript script;
+    script.expect(QStringLiteral("frmNewGolfer"), [&](QWidget *dialog) {
+        rows = findControl<QListWidget>(dialog, QStringLiteral("lstGolferList"))->count();
+        cancel = findControl<QPushButton>(dialog, QStringLiteral("cmdCancel"))->text();
+        // Leave without a choice, as "E&xit" does, but keep this test's program running.
+        static_cast<QDialog *>(dialog)->done(QDialog::Rejected);
+    });
+    MDIForm1::instance().AskForGolfer();
+    EXPECT_EQ(rows, 0);
+    EXPECT_EQ(cancel, QStringLiteral("E&xit"));
+    EXPECT_TRUE(app.platform().messages().isEmpty());
 }
 
 TEST_F(Startup, UpdateFileBesideAnExistingDatabaseLeavesTheUsersDataWhole)

@@ -48,6 +48,22 @@ qint64 addRound(Connection &c, const RoundSpec &r)
     return LastInsertId(c);
 }
 
+void addWeeklyRounds(Connection &c, const QString &last, const QString &firstName, const QDate &first,
+                     const QVector<double> &differentials)
+{
+    Transaction unit(c);
+    RoundSpec r;
+    r.last = last;
+    r.first = firstName;
+    r.date = first;
+    for (const double d : differentials) {
+        r.differential = d;
+        addRound(c, r);
+        r.date = r.date.addDays(7);
+    }
+    unit.commit();
+}
+
 void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole,
                    const QVector<int> &scores, const QVector<int> &pars)
 {

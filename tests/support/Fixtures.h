@@ -41,6 +41,9 @@ struct RoundSpec {
 };
 // One ScoreLog row; returns the ScoreIndex the database gave it.
 qint64 addRound(Connection &c, const RoundSpec &r);
+// Rounds of a golfer a week apart from `first`, one a differential, in one transaction.
+void addWeeklyRounds(Connection &c, const QString &last, const QString &firstName, const QDate &first,
+                     const QVector<double> &differentials);
 // ScoreDetails rows of a round: scores[i] on hole firstHole + i, with the given pars.
 void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole,
                    const QVector<int> &scores, const QVector<int> &pars);

@@ -17,8 +17,8 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    // Answer the golfer dialog by typing `typed` and pressing OK (a new golfer is asked its
-    // gender, answered "M"); the dialog is opened by `open` (default: the dialog's own entry).
+    // Open the golfer dialog and answer it by typing `typed` and pressing OK; a new golfer is
+    // asked its gender, answered "M".
     void chooseGolfer(const QString &typed, bool isNew = false);
     // A menu item by name; triggering it runs its command as a click would.
     QAction *item(const QString &name) const { return frame->menuItem(name); }
