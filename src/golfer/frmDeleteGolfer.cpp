@@ -1,6 +1,6 @@
 #include "frmDeleteGolfer.h"
 
-#include "DialogPlacement.h"
+#include "ui/DialogPlacement.h"
 #include "GolferListDialog.h"
 #include "GolferNames.h"
 #include "frmNewGolfer.h"

@@ -1,6 +1,6 @@
 #include "frmGender.h"
 
-#include "DialogPlacement.h"
+#include "ui/DialogPlacement.h"
 #include "ui/FormInstance.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "frmNewGolfer.h"
 
-#include "DialogPlacement.h"
+#include "ui/DialogPlacement.h"
 #include "GolferListDialog.h"
 #include "handicap/Handicap.h"
 #include "platform/Hourglass.h"

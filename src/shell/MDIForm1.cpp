@@ -3,6 +3,9 @@
 #include "MenuRules.h"
 #include "Program.h"
 #include "ToolbarIcons.h"
+#include "course/frmCourseInfo.h"
+#include "course/frmDeleteCourse.h"
+#include "course/frmNewCourse.h"
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmNewGolfer.h"
 #include "help/ApplicationIcon.h"
@@ -21,6 +24,7 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -201,6 +205,8 @@ MDIForm1::MDIForm1()
         // Score details come with their own view; until then the request has nowhere to go.
         return log;
     });
+    m_views->registerView(QStringLiteral("frmCourseInfo"), QStringLiteral("mnuViewCourseInfo"),
+                          [] { return new frmCourseInfo; });
     wireCommands();
 
     LogGlobals &g = basLogGlobals();
@@ -290,6 +296,21 @@ void MDIForm1::wireCommands()
                 log->ViewSelection(selection);
         });
     onItem("mnuDeleteGolfer", [] { frmDeleteGolfer::instance().DeleteGolfer(); });
+    onItem("mnuNewCourse", [] { frmNewCourse::instance().NewCourse(); });
+    onItem("mnuEditCourse", [this] {
+        QString course, tees;
+        courseFromView(course, tees);
+        frmNewCourse::instance().EditCourse(course, tees);
+    });
+    onItem("mnuViewCourseInfo", [this] { mnuViewCourseInfo_Click(); });
+    onItem("mnuDeleteCourse", [this] {
+        frmDeleteCourse::instance().DeleteCourse();
+        RefreshActiveView();
+    });
+    connect(this, &MDIForm1::panelClicked, this, [this](const QString &key) {
+        if (key == QLatin1String("ScoreDetails") && panel(key)->text() == QLatin1String("Score Details"))
+            RunGuarded([this] { backToScoreDetails(); });
+    });
     onItem("mnuHelpContents", [] { frmHelp::instance().ShowHelp(QString()); });
     onItem("mnuHelpAbout", [] { frmAbout::instance().ShowAbout(); });
     // The popup's items run the command of the menu item they stand for.
@@ -335,6 +356,43 @@ void MDIForm1::mnuViewScoreLog_Click()
     m_views->switchTo(QStringLiteral("frmScoreLog"));
 }
 
+bool MDIForm1::courseFromView(QString &course, QString &tees) const
+{
+    const QString active = m_views->activeFormName();
+    ViewForm *view = m_views->loaded(active);
+    return view && view->selectedCourse(course, tees);
+}
+
+void MDIForm1::mnuViewCourseInfo_Click()
+{
+    if (menuItem(QStringLiteral("mnuViewCourseInfo"))->isChecked())
+        return;
+    QString course, tees;
+    courseFromView(course, tees);
+    ShowCourseInfo(course, tees, false);
+}
+
+void MDIForm1::ShowCourseInfo(const QString &course, const QString &tees, bool fromScoreDetails)
+{
+    Hourglass hourglass;
+    const QString name = QStringLiteral("frmCourseInfo");
+    auto &info = static_cast<frmCourseInfo &>(m_views->load(name));
+    if (!info.ShowCourseInfo(course, tees, fromScoreDetails)) {
+        m_views->unload(name);
+        return;
+    }
+    m_views->switchTo(name);
+}
+
+void MDIForm1::backToScoreDetails()
+{
+    m_views->unload(QStringLiteral("frmCourseInfo"));
+    menuItem(QStringLiteral("mnuViewScoreLog"))->setChecked(true);
+    menuItem(QStringLiteral("mnuViewCourseInfo"))->setChecked(false);
+    menuItem(QStringLiteral("mnuViewUltimateScorecard"))->setChecked(false);
+    UpdateMenus(QStringLiteral("frmScoreLog"));
+}
+
 QString MDIForm1::ActiveFormName() const
 {
     if (QWidget *modal = QApplication::activeModalWidget())
@@ -355,6 +413,11 @@ void MDIForm1::ShowScoreLog()
 void MDIForm1::UnloadForms()
 {
     m_views->unloadAllBut();
+    // Entry forms go too.
+    for (QMdiSubWindow *w : m_mdiArea->subWindowList()) {
+        w->close();
+        delete w;
+    }
 }
 
 void MDIForm1::EndProgram()

@@ -41,7 +41,7 @@ public:
     // A toolbar button by key (NewCourse, ..., Help); null if unknown.
     QAction *toolButton(const QString &key) const;
     // A status-bar panel by key (GolferName, ScoreDetails, Handicap); null if unknown.
-    QLabel *panel(const QString &key) const;
+    QLabel *panel(const QString &key) const override;
     QMdiArea *mdiArea() const { return m_mdiArea; }
 
     // No database to work on: say so, and leave only printer set-up, Exit, the course
@@ -60,12 +60,19 @@ public:
     void setPanelText(const QString &key, const QString &text) override;
     void ShowScoreLog() override;
     void UnloadForms() override;
+    void unloadView(const QString &formName) override { m_views->unload(formName); }
     void EndProgram() override;
     QWidget *frameWidget() override { return this; }
+    void openChild(ViewForm *form) override { m_views->openChild(form); }
 
     ViewHost &views() { return *m_views; }
     // The name of the active form: a modal dialog up, else the active view; empty when none.
     QString ActiveFormName() const;
+
+    // The course card of a course (its first tees), as the View item and score details open it.
+    void ShowCourseInfo(const QString &course, const QString &tees, bool fromScoreDetails);
+    // The course and tees of the view in front; false when it has none.
+    bool courseFromView(QString &course, QString &tees) const;
 
     // Step 14 of the start: ask for a golfer.  "E&xit" there ends the program.
     void AskForGolfer();
@@ -100,6 +107,9 @@ private:
     void onItem(const char *item, std::function<void()> handler);
     void mnuNewGolfer_Click();
     void mnuViewScoreLog_Click();
+    void mnuViewCourseInfo_Click();
+    // The status bar's way back from the course card to the round it was opened from.
+    void backToScoreDetails();
     void disableUnbuilt();
     void mirrorToolbar();
     bool unsavedInputStands() const;

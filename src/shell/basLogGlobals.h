@@ -7,8 +7,13 @@
 #include <memory>
 
 class QAction;
+class QLabel;
 class QMenu;
 class QWidget;
+
+namespace quillon {
+class ViewForm;
+}
 
 namespace quillon {
 
@@ -23,15 +28,20 @@ public:
     virtual void RefreshActiveView() = 0;
     virtual QAction *menuItem(const QString &name) const = 0;
     virtual QMenu *menu(const QString &name) const = 0;
-    // A status-bar panel by key: GolferName, ScoreDetails, Handicap.
+    // A status-bar panel by key: GolferName, ScoreDetails, Handicap; null if unknown.
+    virtual QLabel *panel(const QString &key) const = 0;
     virtual void setPanelText(const QString &key, const QString &text) = 0;
     // The score log, maximized in the frame.
     virtual void ShowScoreLog() = 0;
     // Unload every view of the frame.
     virtual void UnloadForms() = 0;
+    // Unload one view, if it is loaded.
+    virtual void unloadView(const QString &formName) = 0;
     // End the program now, releasing what it holds.
     virtual void EndProgram() = 0;
     virtual QWidget *frameWidget() = 0;
+    // Show an entry form over the views, active, in its own size.
+    virtual void openChild(ViewForm *form) = 0;
 };
 
 // What the handicap engine shows on the frame: the status-bar panel "Handicap"

@@ -5,21 +5,37 @@
 
 namespace quillon {
 
-bool RunGuarded(const std::function<void()> &handler)
+namespace {
+
+bool runReporting(const std::function<void()> &handler, const std::function<QString(const QuillonError &)> &words)
 {
     try {
         handler();
         return true;
     } catch (const QuillonError &e) {
-        platform().messageBox(e.message(), MsgIcon::Critical, appTitle());
+        platform().messageBox(words(e), MsgIcon::Critical, appTitle());
     } catch (const std::bad_alloc &) {
-        platform().messageBox(QuillonError(7, QStringLiteral("Out of memory")).message(), MsgIcon::Critical,
+        platform().messageBox(words(QuillonError(7, QStringLiteral("Out of memory"))), MsgIcon::Critical,
                               appTitle());
     } catch (const std::exception &e) {
-        platform().messageBox(QuillonError(51, QString::fromLocal8Bit(e.what())).message(), MsgIcon::Critical,
+        platform().messageBox(words(QuillonError(51, QString::fromLocal8Bit(e.what()))), MsgIcon::Critical,
                               appTitle());
     }
     return false;
+}
+
+} // namespace
+
+bool RunGuarded(const std::function<void()> &handler)
+{
+    return runReporting(handler, [](const QuillonError &e) { return e.message(); });
+}
+
+bool RunUntrapped(const std::function<void()> &handler)
+{
+    return runReporting(handler, [](const QuillonError &e) {
+        return QStringLiteral("Run-time error '%1':\n\n%2").arg(e.number()).arg(e.description());
+    });
 }
 
 } // namespace quillon

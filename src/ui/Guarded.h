@@ -10,6 +10,11 @@ namespace quillon {
 // there.  Returns false when it did.
 bool RunGuarded(const std::function<void()> &handler);
 
+// A handler that has no trap of its own: a fault reaches the program's last line of defence,
+// which names it in the platform's words ("Run-time error '13':" and the description) and
+// lets the program go on.  Returns false when it did.
+bool RunUntrapped(const std::function<void()> &handler);
+
 // A handler for connect() that runs under the trap.
 template <typename F>
 auto Guarded(F handler)

@@ -12,6 +12,8 @@ ViewHost::ViewHost(QMdiArea &area, MenuLookup menuItem, QObject *parent)
     : QObject(parent), m_area(area), m_menuItem(std::move(menuItem))
 {
     connect(&m_area, &QMdiArea::subWindowActivated, this, &ViewHost::activated);
+    // Views are maximized by show(); an entry form over them keeps its own size.
+    m_area.setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
 }
 
 void ViewHost::registerView(const QString &formName, const QString &checkItem, Factory factory)
@@ -29,7 +31,7 @@ ViewForm *ViewHost::loaded(const QString &formName) const
     return qobject_cast<ViewForm *>(it->window->widget());
 }
 
-ViewForm &ViewHost::show(const QString &formName)
+ViewForm &ViewHost::load(const QString &formName)
 {
     Entry &e = m_views[formName];
     if (!e.window) {
@@ -40,7 +42,13 @@ ViewForm &ViewHost::show(const QString &formName)
         e.window->setWindowTitle(form->windowTitle());
         e.window->setWindowIcon(QIcon());
     }
-    auto *form = qobject_cast<ViewForm *>(e.window->widget());
+    return *qobject_cast<ViewForm *>(e.window->widget());
+}
+
+ViewForm &ViewHost::show(const QString &formName)
+{
+    ViewForm *form = &load(formName);
+    Entry &e = m_views[formName];
     e.window->showMaximized();
     m_area.setActiveSubWindow(e.window);
     // Every activation rebuilds the view, also when it was active already.
@@ -69,15 +77,42 @@ void ViewHost::unloadAllBut(const QString &formName)
             unload(name);
 }
 
+void ViewHost::openChild(ViewForm *form)
+{
+    if (auto *open = qobject_cast<QMdiSubWindow *>(form->parentWidget())) {
+        open->showNormal();
+        m_area.setActiveSubWindow(open);
+        return;
+    }
+    form->setAttribute(Qt::WA_DeleteOnClose);
+    QMdiSubWindow *window = m_area.addSubWindow(form);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(form->windowTitle());
+    window->setWindowIcon(QIcon());
+    connect(form, &QWidget::windowTitleChanged, window, &QWidget::setWindowTitle);
+    // The title bar has no maximize or minimize: the form keeps the size of its layout.
+    window->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    window->adjustSize();
+    QRect area(QPoint(0, 0), window->size());
+    area.moveCenter(m_area.viewport()->rect().center());
+    window->move(area.topLeft().x() < 0 ? 0 : area.left(), area.top() < 0 ? 0 : area.top());
+    window->showNormal();
+    m_area.setActiveSubWindow(window);
+    if (m_lastActive != window) {
+        m_lastActive = window;
+        form->FormActivate();
+    }
+}
+
 QString ViewHost::activeFormName() const
 {
     QMdiSubWindow *active = m_area.activeSubWindow();
     if (!active)
         active = m_lastActive;
-    for (auto it = m_views.cbegin(); it != m_views.cend(); ++it)
-        if (it->window && it->window == active)
-            return it.key();
-    return QString();
+    if (!active || !active->widget())
+        return QString();
+    return active->widget()->objectName();
 }
 
 void ViewHost::switchTo(const QString &formName)

@@ -20,6 +20,14 @@ public:
     using QWidget::QWidget;
     // Rebuild from the database and hand the form's name to the menu rules.
     virtual void FormActivate() = 0;
+    // The course and tees the view has in front, for the commands that act on a course;
+    // false when it has none.
+    virtual bool selectedCourse(QString &course, QString &tees) const
+    {
+        Q_UNUSED(course);
+        Q_UNUSED(tees);
+        return false;
+    }
 };
 
 // The views of the frame, each a maximized child window, one open at a time, with the View
@@ -38,12 +46,17 @@ public:
 
     // The view if it is loaded, else null.
     ViewForm *loaded(const QString &formName) const;
+    // Load (once) the view without showing it, so that it can be told what to show.
+    ViewForm &load(const QString &formName);
     // Load (once) and show the view maximized, and let it rebuild.
     ViewForm &show(const QString &formName);
     void unload(const QString &formName);
+    // Show a child form that is not a view (an entry form) in its own size, centred over the
+    // views and active; it goes when it closes, and the view behind becomes active again.
+    void openChild(ViewForm *form);
     // Unload every view but the one named (none: all).
     void unloadAllBut(const QString &formName = QString());
-    // The form name of the active view; empty when none is open.
+    // The form name of the active child window, view or not; empty when none is open.
     QString activeFormName() const;
 
     // The handler of a View item: nothing if it is checked already; else the view is shown,

@@ -138,6 +138,15 @@ void frmScoreLog::InitializeForm()
     frame().UpdateMenus(QStringLiteral("frmScoreLog"));
 }
 
+bool frmScoreLog::selectedCourse(QString &course, QString &tees) const
+{
+    if (selectedRow() < 0)
+        return false;
+    course = selectedValue(QStringLiteral("CourseName")).toString();
+    tees = selectedValue(QStringLiteral("Tees")).toString();
+    return true;
+}
+
 void frmScoreLog::FormActivate()
 {
     RunGuarded([this] {

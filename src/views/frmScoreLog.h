@@ -23,6 +23,8 @@ public:
     // Rebuild the view from the database: rows, message, menus.
     void InitializeForm();
     void FormActivate() override;
+    // The selected round's course and tees.
+    bool selectedCourse(QString &course, QString &tees) const override;
     QString ScoreLogSort() const { return m_sortOrder; }
 
     // The View items All, Used and Current Year (run under the menu item's error trap).

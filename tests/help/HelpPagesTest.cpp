@@ -44,8 +44,8 @@ bool hasPlace(const QString &html, const QString &place)
 TEST(HelpPagesTest, TheExpectedPagesAreThere)
 {
     const QStringList present = pages();
-    for (const char *page : {"index.html", "starting.html", "golfer.html", "scorelog.html", "menus.html",
-                             "handicap.html", "about.html"})
+    for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "scorelog.html",
+                             "menus.html", "handicap.html", "about.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -116,6 +116,13 @@ TEST(HelpPagesTest, HandicapPageHoldsTheCountTable)
     EXPECT_TRUE(text.contains("0.96"));
     EXPECT_TRUE(text.contains("36.4"));
     EXPECT_TRUE(text.contains("40.4"));
+}
+
+TEST(HelpPagesTest, CoursePageHoldsItsPlaces)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("course.html")));
+    for (const char *place : {"new", "edit", "info", "delete"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
 }
 
 TEST(HelpPagesTest, TheBuildLaysEveryFileBesideTheProgram)

@@ -1,5 +1,7 @@
 #include "FrameFixture.h"
 
+#include "course/frmDeleteCourse.h"
+#include "course/frmNewCourse.h"
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmGender.h"
 #include "golfer/frmNewGolfer.h"
@@ -24,6 +26,8 @@ void FrameFixture::TearDown()
     FormInstance<frmNewGolfer>::destroy();
     FormInstance<frmDeleteGolfer>::destroy();
     FormInstance<frmGender>::destroy();
+    FormInstance<frmDeleteCourse>::destroy();
+    FormInstance<frmNewCourse>::destroy();
 }
 
 void FrameFixture::chooseGolfer(const QString &typed, bool isNew)

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "CourseEntry.h"
+#include "CourseCardLayout.h"
+#include "ui/ViewHost.h"
+
+#include <QHash>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace quillon {
+
+class BoxArray;
+
+// The one form through which course data enters: a new set of tees (of a new or a known
+// course), or an existing set changed, or a further set added to a known course.  Every
+// value lives as the text of its control until it is saved.
+class frmNewCourse : public ViewForm {
+    Q_OBJECT
+public:
+    explicit frmNewCourse(QWidget *parent = nullptr);
+    // The open form, created when none is.
+    static frmNewCourse &instance();
+    static frmNewCourse *existing();
+
+    void NewCourse();
+    void EditCourse(const QString &courseName, const QString &tees);
+    void FormActivate() override;
+    bool editMode() const { return m_editMode; }
+    // The help page and place for the mode.
+    QString helpAnchor() const { return m_helpAnchor; }
+
+    // The form's texts as the rules read them.
+    CourseEntry entry() const;
+    // Save as the Save button does: validate, ask, write, close.
+    void cmdSave_Click();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    QWidget *ratingCell(CardNine nine, bool slope);
+    void buildSpinners(QLineEdit *box, const QString &name, bool slope, QWidget *cell);
+    // False when the course has no tees and the form closed.
+    bool courseChosen(const QString &course);
+    void teesChosen(const QString &tees);
+    void ClearCourseFields();
+    void UpdateSaveButton();
+    void rowChanged(CardRow row, int index);
+    void hdcpChanged(int index);
+    bool save(bool withDetails);
+    void closeForm();
+    void markUnsaved(bool unsaved);
+
+    bool m_editMode = false;
+    QString m_helpAnchor;
+    QLineEdit *m_txtCourse = nullptr;
+    QComboBox *m_cboCourses = nullptr;
+    QComboBox *m_cboTees = nullptr;
+    QHash<QString, QLineEdit *> m_ratingBoxes; // txtOverallRating ... txtBackSlope
+    BoxArray *m_par = nullptr;
+    BoxArray *m_yards = nullptr;
+    BoxArray *m_hdcp = nullptr;
+    QHash<QString, QLabel *> m_sums; // lblParOut ... lblYardsTotal
+    QPushButton *m_cmdCalculate = nullptr;
+    QPushButton *m_cmdSave = nullptr;
+    QPushButton *m_cmdCancel = nullptr;
+    QVector<QWidget *> m_tabOrder;
+    bool m_filling = false; // texts set by the form itself are not typed input
+};
+
+} // namespace quillon

@@ -1,0 +1,44 @@
+#include "BoxArray.h"
+
+#include <QLineEdit>
+
+namespace quillon {
+
+BoxArray::BoxArray(const QString &name, int first, int count, int maxLength, KeyRule rule, QWidget *parent)
+    : QObject(parent), m_first(first)
+{
+    for (int i = first; i < first + count; ++i) {
+        auto *box = new QLineEdit(parent);
+        box->setObjectName(QStringLiteral("%1_%2").arg(name).arg(i));
+        box->setMaxLength(maxLength);
+        box->setAlignment(Qt::AlignCenter);
+        ApplyKeyRule(box, rule);
+        connect(box, &QLineEdit::textChanged, this, [this, i] { emit changed(i); });
+        m_boxes.append(box);
+    }
+}
+
+QLineEdit *BoxArray::box(int index) const
+{
+    return m_boxes.at(index - m_first);
+}
+
+QString BoxArray::text(int index) const
+{
+    return box(index)->text();
+}
+
+void BoxArray::setText(int index, const QString &text)
+{
+    box(index)->setText(text);
+}
+
+QStringList BoxArray::texts(int from, int n) const
+{
+    QStringList out;
+    for (int i = from; i < from + n; ++i)
+        out << text(i);
+    return out;
+}
+
+} // namespace quillon
