@@ -504,7 +504,7 @@ void frmNewCourse::closeForm()
     if (parentWidget())
         parentWidget()->close(); // the child window, and the form with it
     else
-        close();
+        deleteLater(); // never shown
 }
 
 void frmNewCourse::markUnsaved(bool unsaved)
