@@ -56,8 +56,8 @@ void addHoleGrid(QGroupBox *box, QVBoxLayout *column, CardNine nine, const Cours
         for (int s = 0; s < sums.size(); ++s)
             grid->addWidget(cells.sum(rows[r].row, sums[s]), r + 1, 10 + s);
     }
-    for (int c = 1; c <= 9 + sums.size(); ++c)
-        grid->setColumnStretch(c, 1);
+    // The cells keep their own width; what is left over stands at the right.
+    grid->setColumnStretch(10 + sums.size(), 1);
     column->addLayout(grid);
 }
 

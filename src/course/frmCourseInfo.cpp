@@ -26,7 +26,7 @@ QLabel *valueLabel(QWidget *parent, const QString &name)
     label->setObjectName(name);
     label->setAlignment(Qt::AlignCenter);
     label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-    label->setMinimumWidth(48);
+    label->setFixedWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 10);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
@@ -72,7 +72,6 @@ frmCourseInfo::frmCourseInfo(QWidget *parent) : ViewForm(parent)
     cells.hole = [this](CardRow row, int index) -> QWidget * {
         const char *names[] = {"lblPar", "lblYards", "lblHdcp"};
         QLabel *label = valueLabel(this, QStringLiteral("%1_%2").arg(QLatin1String(names[int(row)])).arg(index));
-        label->setMinimumWidth(36);
         (row == CardRow::Par ? m_lblPar : row == CardRow::Yards ? m_lblYards : m_lblHdcp)[index] = label;
         return label;
     };

@@ -20,7 +20,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -96,7 +95,7 @@ frmNewCourse::frmNewCourse(QWidget *parent) : ViewForm(parent)
     cells.hole = [this](CardRow row, int index) -> QWidget * {
         BoxArray *array = row == CardRow::Par ? m_par : row == CardRow::Yards ? m_yards : m_hdcp;
         QLineEdit *box = array->box(index);
-        box->setMinimumWidth(36);
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 14);
         m_tabOrder << box;
         return box;
     };
@@ -105,7 +104,7 @@ frmNewCourse::frmNewCourse(QWidget *parent) : ViewForm(parent)
         label->setObjectName(sumName(row, sum));
         label->setAlignment(Qt::AlignCenter);
         label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
-        label->setMinimumWidth(48);
+        label->setFixedWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 10);
         m_sums.insert(label->objectName(), label);
         return label;
     };
@@ -150,9 +149,6 @@ frmNewCourse::frmNewCourse(QWidget *parent) : ViewForm(parent)
     connect(m_cboTees, &QComboBox::activated, this, [this] { markUnsaved(true); });
     connect(m_cboCourses, &QComboBox::activated, this, [this] { markUnsaved(true); });
 
-    auto *help = new QShortcut(QKeySequence::HelpContents, this);
-    help->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(help, &QShortcut::activated, this, [this] { platform().showHelp(m_helpAnchor); });
 }
 
 frmNewCourse &frmNewCourse::instance()
@@ -222,6 +218,20 @@ void frmNewCourse::buildSpinners(QLineEdit *box, const QString &name, bool slope
         column->addWidget(button);
     }
     static_cast<QHBoxLayout *>(cell->layout())->addLayout(column);
+}
+
+void frmNewCourse::keyPressEvent(QKeyEvent *event)
+{
+    // Keys no box took: F1 opens the help of the mode, Escape is Cancel as in a dialog.
+    if (event->key() == Qt::Key_F1) {
+        platform().showHelp(m_helpAnchor);
+        return;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        m_cmdCancel->click();
+        return;
+    }
+    ViewForm::keyPressEvent(event);
 }
 
 bool frmNewCourse::eventFilter(QObject *watched, QEvent *event)

@@ -275,7 +275,13 @@ void MDIForm1::onItem(const char *item, std::function<void()> handler)
 {
     QAction *action = menuItem(QLatin1String(item));
     m_built.insert(action->objectName());
-    connect(action, &QAction::triggered, this, [handler = std::move(handler)] { RunGuarded(handler); });
+    connect(action, &QAction::triggered, this, [action, handler = std::move(handler)] {
+        // A check mark is the command's to set, not the click's: the handler sees the item as
+        // it stood before.
+        if (action->isCheckable())
+            action->setChecked(!action->isChecked());
+        RunGuarded(handler);
+    });
 }
 
 void MDIForm1::wireCommands()
@@ -379,6 +385,13 @@ void MDIForm1::ShowCourseInfo(const QString &course, const QString &tees, bool f
     auto &info = static_cast<frmCourseInfo &>(m_views->load(name));
     if (!info.ShowCourseInfo(course, tees, fromScoreDetails)) {
         m_views->unload(name);
+        return;
+    }
+    if (fromScoreDetails) {
+        // The card goes over the round it was asked from, which stays loaded beneath it: the
+        // status bar's panel leads back there.
+        m_views->show(name);
+        m_views->checkOnly(name);
         return;
     }
     m_views->switchTo(name);

@@ -724,3 +724,29 @@ TEST_F(NewCourseForm, TabFollowsTheReadingOrder)
     EXPECT_EQ(at("txtPar_9"), at("txtBackSlope") + 1);
     EXPECT_EQ(at("cmdCancel"), at("txtHdcp_17") + 1) << "the disabled calculator and Save are passed over";
 }
+
+TEST_F(NewCourseForm, EscapeCancelsInEitherMode)
+{
+    openNew();
+    addCourse(*basLogGlobals().gConnection, CourseSpec{kCourse, "White"});
+    type("txtCourse", kCourse);
+    QTest::keyClick(box("txtCourse"), Qt::Key_Escape);
+    EXPECT_FALSE(formOpen());
+    openEdit(kCourse, QStringLiteral("White"));
+    QTest::keyClick(box("txtOverallRating"), Qt::Key_Escape);
+    EXPECT_FALSE(formOpen());
+    EXPECT_TRUE(messages().isEmpty());
+    EXPECT_EQ(logRows().size(), 1);
+}
+
+TEST_F(NewCourseForm, F1OpensTheHelpOfTheMode)
+{
+    addCourse(*basLogGlobals().gConnection, CourseSpec{kCourse, "White"});
+    openEdit(kCourse, QStringLiteral("White"));
+    QTest::keyClick(box("txtOverallRating"), Qt::Key_F1);
+    form->parentWidget()->close();
+    settle();
+    openNew();
+    QTest::keyClick(box("txtCourse"), Qt::Key_F1);
+    EXPECT_EQ(app.platform().helpAnchors(), (QStringList{"course.html#edit", "course.html#new"}));
+}
