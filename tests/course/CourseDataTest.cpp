@@ -1,3 +1,4 @@
+#include "CourseEntries.h"
 #include "Fixtures.h"
 #include "TestApp.h"
 #include "course/CourseData.h"
@@ -9,46 +10,6 @@ using namespace quillon;
 using namespace quillon::test;
 
 namespace {
-
-// A complete 18-hole entry with its totals as the form derives them.
-CourseEntry entry(const QString &course = QStringLiteral("Pebble Creek"), const QString &tees = QStringLiteral("White"))
-{
-    CourseEntry e;
-    e.course = course;
-    e.tees = tees;
-    e.overallRating = QStringLiteral("71.5");
-    e.overallSlope = QStringLiteral("125");
-    e.frontRating = QStringLiteral("35.7");
-    e.frontSlope = QStringLiteral("124");
-    e.backRating = QStringLiteral("35.8");
-    e.backSlope = QStringLiteral("126");
-    const int pars[18] = {4, 4, 3, 5, 4, 4, 3, 4, 5, 4, 4, 3, 5, 4, 4, 3, 4, 5};
-    for (int i = 0; i < 18; ++i) {
-        e.par[i] = QString::number(pars[i]);
-        e.yards[i] = QString::number(300 + 10 * i);
-        e.hdcp[i] = QString::number(i + 1);
-    }
-    return e;
-}
-
-void blankNine(CourseEntry &e, int from)
-{
-    for (int i = from; i < from + 9; ++i)
-        e.par[i] = e.yards[i] = e.hdcp[i] = QString();
-}
-
-// The derived labels, as the form shows them.
-void derive(CourseEntry &e)
-{
-    const RowTotals par = SumRow(e.par);
-    const RowTotals yards = SumRow(e.yards);
-    e.parOut = par.out;
-    e.parIn = par.in;
-    e.parTotal = par.total;
-    e.yardsOut = yards.out;
-    e.yardsIn = yards.in;
-    e.yardsTotal = yards.total;
-}
 
 const char *const kLogSql =
     "SELECT CourseName, Tees, OverallRating, OverallSlope, FrontRating, FrontSlope, BackRating, BackSlope, "
@@ -77,8 +38,8 @@ protected:
 
 TEST_F(CourseData, NewWithDetailsWritesEveryColumnAndEighteenHoleRows)
 {
-    CourseEntry e = entry();
-    derive(e);
+    CourseEntry e = CompleteCourseEntry();
+    DeriveTotals(e);
     EXPECT_EQ(SaveNewCourse(app.db(), e, true), 1);
     EXPECT_EQ(logRow(), (QStringList{"Pebble Creek|White|71.5|125|35.7|124|35.8|126|3870|3060|6930|36|36|72"}));
     const QStringList h = holes();
@@ -89,11 +50,11 @@ TEST_F(CourseData, NewWithDetailsWritesEveryColumnAndEighteenHoleRows)
 
 TEST_F(CourseData, NewWithDetailsAndABlankBackNineLeavesTheBackTotalsUnwritten)
 {
-    CourseEntry e = entry();
-    blankNine(e, 9);
+    CourseEntry e = CompleteCourseEntry();
+    BlankNine(e, 9);
     e.backRating.clear();
     e.backSlope.clear();
-    derive(e);
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     // YardsIn and ParIn unwritten; the totals hold the front nine's sums.
     EXPECT_EQ(logRow(), (QStringList{"Pebble Creek|White|71.5|125|35.7|124||||3060|3060||36|36"}));
@@ -103,12 +64,12 @@ TEST_F(CourseData, NewWithDetailsAndABlankBackNineLeavesTheBackTotalsUnwritten)
 
 TEST_F(CourseData, NewWithoutDetailsWritesTheNamesAndRatingsOnly)
 {
-    CourseEntry e = entry();
+    CourseEntry e = CompleteCourseEntry();
     e.frontRating.clear();
     e.frontSlope.clear();
     e.backRating.clear();
     e.backSlope.clear();
-    derive(e);
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, false);
     EXPECT_EQ(logRow(), (QStringList{"Pebble Creek|White|71.5|125||||||||||"}));
     EXPECT_TRUE(Scalar(app.db(), "SELECT TotalPar FROM CourseLog").isNull());
@@ -117,7 +78,7 @@ TEST_F(CourseData, NewWithoutDetailsWritesTheNamesAndRatingsOnly)
 
 TEST_F(CourseData, NewDropsASlopeEnteredWithoutItsRatingAndWritesABlankSlopeBesideARating)
 {
-    CourseEntry e = entry();
+    CourseEntry e = CompleteCourseEntry();
     e.frontRating.clear();   // the slope 124 beside it goes unwritten
     e.backSlope.clear();     // the rating 35.8 is written with its blank slope
     SaveNewCourse(app.db(), e, false);
@@ -126,17 +87,17 @@ TEST_F(CourseData, NewDropsASlopeEnteredWithoutItsRatingAndWritesABlankSlopeBesi
 
 TEST_F(CourseData, NewCountsEverySetOfTeesNotCourses)
 {
-    SaveNewCourse(app.db(), entry("Pebble Creek", "White"), false);
-    EXPECT_EQ(SaveNewCourse(app.db(), entry("Pebble Creek", "Blue"), false), 2);
+    SaveNewCourse(app.db(), CompleteCourseEntry("Pebble Creek", "White"), false);
+    EXPECT_EQ(SaveNewCourse(app.db(), CompleteCourseEntry("Pebble Creek", "Blue"), false), 2);
     EXPECT_EQ(CountCourseRows(app.db()), 2);
     EXPECT_EQ(CourseNames(app.db()), QStringList{"Pebble Creek"});
 }
 
 TEST_F(CourseData, ATextThatIsNotANumberFailsBeforeAnythingIsWritten)
 {
-    CourseEntry e = entry();
+    CourseEntry e = CompleteCourseEntry();
     e.overallRating = QStringLiteral("7.2.3");
-    derive(e);
+    DeriveTotals(e);
     try {
         SaveNewCourse(app.db(), e, true);
         ADD_FAILURE() << "saved";
@@ -146,8 +107,8 @@ TEST_F(CourseData, ATextThatIsNotANumberFailsBeforeAnythingIsWritten)
     EXPECT_EQ(rows("SELECT COUNT(*) FROM CourseLog"), 0);
     EXPECT_EQ(rows("SELECT COUNT(*) FROM CourseDetails"), 0);
 
-    e = entry();
-    derive(e);
+    e = CompleteCourseEntry();
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     e.editMode = true;
     e.yards[4] = QStringLiteral("4x");
@@ -163,8 +124,8 @@ TEST_F(CourseData, ATextThatIsNotANumberFailsBeforeAnythingIsWritten)
 
 TEST_F(CourseData, EditWithTheFrontRatingAndSlopeBlankedWritesZeroes)
 {
-    CourseEntry e = entry();
-    derive(e);
+    CourseEntry e = CompleteCourseEntry();
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     e.editMode = true;
     e.frontRating.clear();
@@ -179,12 +140,12 @@ TEST_F(CourseData, EditWithTheFrontRatingAndSlopeBlankedWritesZeroes)
 
 TEST_F(CourseData, EditWithDetailsAndTheBackNineBlankedDeletesItsHoles)
 {
-    CourseEntry e = entry();
-    derive(e);
+    CourseEntry e = CompleteCourseEntry();
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     e.editMode = true;
-    blankNine(e, 9);
-    derive(e);
+    BlankNine(e, 9);
+    DeriveTotals(e);
     SaveEditedCourse(app.db(), e, true);
     EXPECT_EQ(logRow(), (QStringList{"Pebble Creek|White|71.5|125|35.7|124|35.8|126|0|3060|3060|0|36|36"}));
     EXPECT_EQ(holes().size(), 9);
@@ -193,18 +154,18 @@ TEST_F(CourseData, EditWithDetailsAndTheBackNineBlankedDeletesItsHoles)
 
 TEST_F(CourseData, EditWithDetailsAddsChangesAndRemovesHoleRows)
 {
-    CourseEntry e = entry();
-    blankNine(e, 9);
+    CourseEntry e = CompleteCourseEntry();
+    BlankNine(e, 9);
     for (int i = 0; i < 9; ++i)
         e.hdcp[i] = QString::number(i + 1);
-    derive(e);
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
 
-    e = entry();
+    e = CompleteCourseEntry();
     e.editMode = true;
     e.par[2] = QStringLiteral("4");  // changed
     e.yards[2] = QStringLiteral("333");
-    derive(e);
+    DeriveTotals(e);
     SaveEditedCourse(app.db(), e, true);
     const QStringList h = holes();
     ASSERT_EQ(h.size(), 18);
@@ -215,13 +176,13 @@ TEST_F(CourseData, EditWithDetailsAddsChangesAndRemovesHoleRows)
 
 TEST_F(CourseData, EditWithoutDetailsLeavesTotalsAndHolesAsTheyWere)
 {
-    CourseEntry e = entry();
-    derive(e);
+    CourseEntry e = CompleteCourseEntry();
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     e.editMode = true;
     for (int i = 0; i < 18; ++i)
         e.par[i] = e.yards[i] = e.hdcp[i] = QString();
-    derive(e);
+    DeriveTotals(e);
     e.overallRating = QStringLiteral("72.0");
     SaveEditedCourse(app.db(), e, false);
     EXPECT_EQ(logRow(), (QStringList{"Pebble Creek|White|72|125|35.7|124|35.8|126|3870|3060|6930|36|36|72"}));
@@ -230,8 +191,8 @@ TEST_F(CourseData, EditWithoutDetailsLeavesTotalsAndHolesAsTheyWere)
 
 TEST_F(CourseData, EditWithNewTeesAddsASetAndLeavesTheOldOne)
 {
-    CourseEntry e = entry();
-    derive(e);
+    CourseEntry e = CompleteCourseEntry();
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     const QStringList whiteBefore = logRow();
     const QStringList whiteHoles = holes();
@@ -241,7 +202,7 @@ TEST_F(CourseData, EditWithNewTeesAddsASetAndLeavesTheOldOne)
     for (int i = 0; i < 18; ++i)
         e.yards[i] = QString::number(350 + 10 * i);
     e.overallRating = QStringLiteral("73.1");
-    derive(e);
+    DeriveTotals(e);
     SaveEditedCourse(app.db(), e, true);
 
     EXPECT_EQ(logRow(), whiteBefore);
@@ -254,8 +215,8 @@ TEST_F(CourseData, EditWithNewTeesAddsASetAndLeavesTheOldOne)
 
 TEST_F(CourseData, ANameWithAnApostropheIsStoredFoundAndDeleted)
 {
-    CourseEntry e = entry(QStringLiteral("St. Andrew's"), QStringLiteral("Old 'Tom' Tees"));
-    derive(e);
+    CourseEntry e = CompleteCourseEntry(QStringLiteral("St. Andrew's"), QStringLiteral("Old 'Tom' Tees"));
+    DeriveTotals(e);
     SaveNewCourse(app.db(), e, true);
     EXPECT_TRUE(TeesExist(app.db(), "St. Andrew's", "Old 'Tom' Tees"));
     EXPECT_EQ(CourseNames(app.db()), QStringList{"St. Andrew's"});
@@ -267,7 +228,7 @@ TEST_F(CourseData, ANameWithAnApostropheIsStoredFoundAndDeleted)
 
 TEST_F(CourseData, ExistingTeesAreFoundAsTheDatabaseComparesThemWithoutCase)
 {
-    SaveNewCourse(app.db(), entry(), false);
+    SaveNewCourse(app.db(), CompleteCourseEntry(), false);
     EXPECT_TRUE(TeesExist(app.db(), "pebble creek", "WHITE"));
     EXPECT_FALSE(TeesExist(app.db(), "Pebble Creek", "White "));
     EXPECT_FALSE(TeesExist(app.db(), "Pebble Creek", "Blue"));
@@ -275,7 +236,7 @@ TEST_F(CourseData, ExistingTeesAreFoundAsTheDatabaseComparesThemWithoutCase)
 
 TEST_F(CourseData, ScoresOfAnyGolferHoldTheTees)
 {
-    SaveNewCourse(app.db(), entry(), false);
+    SaveNewCourse(app.db(), CompleteCourseEntry(), false);
     EXPECT_FALSE(TeesHaveScores(app.db(), "Pebble Creek", "White"));
     RoundSpec r;
     r.last = QStringLiteral("Sorenstam");

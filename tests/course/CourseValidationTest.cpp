@@ -1,3 +1,4 @@
+#include "CourseEntries.h"
 #include "course/CourseValidation.h"
 
 #include "core/QuillonError.h"
@@ -6,45 +7,14 @@
 #include <gtest/gtest.h>
 
 using namespace quillon;
+using namespace quillon::test;
 
 namespace {
 
-// A complete 18-hole set of tees: par 4, 400 yards and stroke indexes 1 to 18, with all
-// three rating pairs.
-CourseEntry fullCourse()
-{
-    CourseEntry e;
-    e.course = QStringLiteral("Pebble Creek");
-    e.tees = QStringLiteral("White");
-    e.overallRating = QStringLiteral("71.5");
-    e.overallSlope = QStringLiteral("125");
-    e.frontRating = QStringLiteral("35.7");
-    e.frontSlope = QStringLiteral("124");
-    e.backRating = QStringLiteral("35.8");
-    e.backSlope = QStringLiteral("126");
-    for (int i = 0; i < 18; ++i) {
-        e.par[i] = QStringLiteral("4");
-        e.yards[i] = QStringLiteral("400");
-        e.hdcp[i] = QString::number(i + 1);
-    }
-    return e;
-}
-
-void blankNine(CourseEntry &e, int from)
-{
-    for (int i = from; i < from + 9; ++i)
-        e.par[i] = e.yards[i] = e.hdcp[i] = QString();
-}
-
 void blankGrid(CourseEntry &e)
 {
-    blankNine(e, 0);
-    blankNine(e, 9);
-}
-
-void blankRatings(CourseEntry &e)
-{
-    e.overallRating = e.overallSlope = e.frontRating = e.frontSlope = e.backRating = e.backSlope = QString();
+    BlankNine(e, 0);
+    BlankNine(e, 9);
 }
 
 bool noTees(const QString &, const QString &)
@@ -76,20 +46,20 @@ TEST(ValidateCourse, EveryOutcomeInItsOrderOfPrecedence)
         {"one blank par on the front", [](CourseEntry &e) { e.par[4].clear(); }, -5},
         {"one blank yardage on the front", [](CourseEntry &e) { e.yards[0].clear(); }, -5},
         {"one blank handicap on the front", [](CourseEntry &e) { e.hdcp[8].clear(); }, -5},
-        {"a front nine filled on its first hole only", [](CourseEntry &e) { blankNine(e, 0); e.par[0] = "4"; e.yards[0] = "400"; e.hdcp[0] = "1"; }, -5},
+        {"a front nine filled on its first hole only", [](CourseEntry &e) { BlankNine(e, 0); e.par[0] = "4"; e.yards[0] = "400"; e.hdcp[0] = "1"; }, -5},
         {"one blank box on the back", [](CourseEntry &e) { e.yards[17].clear(); }, -14},
         {"the front prompt comes before the back one", [](CourseEntry &e) { e.par[1].clear(); e.par[10].clear(); }, -5},
-        {"a missing nine comes before missing ratings", [](CourseEntry &e) { blankRatings(e); e.par[3].clear(); }, -5},
+        {"a missing nine comes before missing ratings", [](CourseEntry &e) { BlankRatings(e); e.par[3].clear(); }, -5},
         {"18 handicaps summing to 170", [](CourseEntry &e) { e.hdcp[17] = "17"; }, -7},
         {"18 handicaps that repeat but sum to 171", [](CourseEntry &e) { e.hdcp[0] = "2"; e.hdcp[1] = "1"; e.hdcp[2] = "2"; e.hdcp[3] = "5"; }, 0},
-        {"the front alone summing to 45", [](CourseEntry &e) { blankNine(e, 9); }, 0},
-        {"the front alone with 1, 1, 3 in place of 2, 2, 2", [](CourseEntry &e) { blankNine(e, 9); e.hdcp[0] = "1"; e.hdcp[1] = "1"; e.hdcp[2] = "3"; e.hdcp[3]="2"; e.hdcp[4]="5"; e.hdcp[5]="6"; e.hdcp[6]="7"; e.hdcp[7]="8"; e.hdcp[8]="12"; }, 0},
-        {"the back alone with its 10 to 18", [](CourseEntry &e) { blankNine(e, 0); }, -7},
-        {"the back alone summing to 45", [](CourseEntry &e) { blankNine(e, 0); for (int i = 9; i < 18; ++i) e.hdcp[i] = QString::number(i - 8); }, 0},
-        {"the handicap error comes before missing ratings", [](CourseEntry &e) { blankRatings(e); e.hdcp[0] = "18"; }, -7},
-        {"no rating at all", [](CourseEntry &e) { blankRatings(e); e.overallSlope = "125"; }, -15},
-        {"no slope at all", [](CourseEntry &e) { blankRatings(e); e.overallRating = "71.5"; }, -16},
-        {"missing ratings come before missing slopes", [](CourseEntry &e) { blankRatings(e); }, -15},
+        {"the front alone summing to 45", [](CourseEntry &e) { BlankNine(e, 9); }, 0},
+        {"the front alone with 1, 1, 3 in place of 2, 2, 2", [](CourseEntry &e) { BlankNine(e, 9); e.hdcp[0] = "1"; e.hdcp[1] = "1"; e.hdcp[2] = "3"; e.hdcp[3]="2"; e.hdcp[4]="5"; e.hdcp[5]="6"; e.hdcp[6]="7"; e.hdcp[7]="8"; e.hdcp[8]="12"; }, 0},
+        {"the back alone with its 10 to 18", [](CourseEntry &e) { BlankNine(e, 0); }, -7},
+        {"the back alone summing to 45", [](CourseEntry &e) { BlankNine(e, 0); for (int i = 9; i < 18; ++i) e.hdcp[i] = QString::number(i - 8); }, 0},
+        {"the handicap error comes before missing ratings", [](CourseEntry &e) { BlankRatings(e); e.hdcp[0] = "18"; }, -7},
+        {"no rating at all", [](CourseEntry &e) { BlankRatings(e); e.overallSlope = "125"; }, -15},
+        {"no slope at all", [](CourseEntry &e) { BlankRatings(e); e.overallRating = "71.5"; }, -16},
+        {"missing ratings come before missing slopes", [](CourseEntry &e) { BlankRatings(e); }, -15},
         {"overall rating without overall slope", [](CourseEntry &e) { e.overallSlope.clear(); }, -4},
         {"overall slope 54", [](CourseEntry &e) { e.overallSlope = "54"; }, -6},
         {"overall slope 156", [](CourseEntry &e) { e.overallSlope = "156"; }, -6},
@@ -108,12 +78,12 @@ TEST(ValidateCourse, EveryOutcomeInItsOrderOfPrecedence)
         {"no overall rating: both pairs complete and no overall slope", [](CourseEntry &e) { e.overallRating.clear(); e.overallSlope.clear(); }, -4},
         {"overall rating given, both pairs complete, no overall slope", [](CourseEntry &e) { e.overallSlope.clear(); }, -4},
         {"both pairs complete with an overall slope but no overall rating", [](CourseEntry &e) { e.overallRating.clear(); }, -3},
-        {"a front pair alone on a nine-hole card", [](CourseEntry &e) { blankNine(e, 9); e.overallRating.clear(); e.overallSlope.clear(); e.backRating.clear(); e.backSlope.clear(); }, 0},
+        {"a front pair alone on a nine-hole card", [](CourseEntry &e) { BlankNine(e, 9); e.overallRating.clear(); e.overallSlope.clear(); e.backRating.clear(); e.backSlope.clear(); }, 0},
         {"a blank grid with a valid overall pair saves without details", [](CourseEntry &e) { blankGrid(e); e.frontRating.clear(); e.frontSlope.clear(); e.backRating.clear(); e.backSlope.clear(); }, 1},
         {"ratings have no range", [](CourseEntry &e) { e.overallRating = "7.2"; e.frontRating = "999"; }, 0},
     };
     for (const Case &c : cases) {
-        CourseEntry e = fullCourse();
+        CourseEntry e = CompleteCourseEntry();
         c.change(e);
         EXPECT_EQ(validate(e), c.outcome) << c.name;
     }
@@ -121,7 +91,7 @@ TEST(ValidateCourse, EveryOutcomeInItsOrderOfPrecedence)
 
 TEST(ValidateCourse, ExistingTeesAreRefusedInNewModeOnlyAndBeforeTheGrid)
 {
-    CourseEntry e = fullCourse();
+    CourseEntry e = CompleteCourseEntry();
     e.par[0].clear(); // would be -5
     QStringList asked;
     const TeesLookup exists = [&](const QString &course, const QString &tees) {
@@ -146,7 +116,7 @@ TEST(ValidateCourse, SameCourseNameWithOtherTeesIsAccepted)
     const TeesLookup onlyWhite = [](const QString &course, const QString &tees) {
         return course == "Pebble Creek" && tees == "White";
     };
-    CourseEntry e = fullCourse();
+    CourseEntry e = CompleteCourseEntry();
     e.tees = QStringLiteral("Blue");
     EXPECT_EQ(validate(e, onlyWhite), 0);
 }
@@ -159,7 +129,7 @@ TEST(ValidateCourse, PastedTextThatIsNotANumberIsATypeMismatch)
         [](CourseEntry &e) { e.hdcp[3] = "x"; },
     };
     for (const auto &paste : pastes) {
-        CourseEntry e = fullCourse();
+        CourseEntry e = CompleteCourseEntry();
         paste(e);
         try {
             validate(e);
