@@ -18,7 +18,9 @@ QStringList CourseNames(Connection &c)
 QStringList TeesOf(Connection &c, const QString &course)
 {
     QStringList tees;
-    Statement s = c.run(QStringLiteral("SELECT DISTINCT Tees FROM CourseLog WHERE CourseName = ?"), {course});
+    // In the order they were entered, so that a course's first tees are the first it was given.
+    Statement s = c.run(
+        QStringLiteral("SELECT Tees FROM CourseLog WHERE CourseName = ? GROUP BY Tees ORDER BY MIN(rowid)"), {course});
     while (s.next())
         tees << s.value(0).toString();
     return tees;

@@ -11,7 +11,7 @@ namespace quillon {
 
 // The names of all courses, in name order.
 QStringList CourseNames(Connection &c);
-// The sets of tees of a course, as the database gives them.
+// The sets of tees of a course, in the order they were entered.
 QStringList TeesOf(Connection &c, const QString &course);
 bool TeesExist(Connection &c, const QString &course, const QString &tees);
 // The number of CourseLog rows, so of sets of tees.

@@ -141,9 +141,35 @@ void frmCourseInfo::FormActivate()
 {
     RunGuarded([this] {
         frame().UpdateMenus(QStringLiteral("frmCourseInfo"));
-        // Something may have changed under the card while another form was in front.
-        teesChosen();
+        // Something may have changed under the card while another form was in front: courses
+        // or tees added or deleted, values edited.
+        refreshLists();
+        if (m_cboTees->currentText().isEmpty())
+            ClearCourseInfo();
+        else
+            teesChosen();
     });
+}
+
+void frmCourseInfo::refreshLists()
+{
+    const QString course = m_dbcboCourses->currentText();
+    const QString tees = m_cboTees->currentText();
+    const QStringList courses = CourseNames(db());
+    {
+        const QSignalBlocker quiet(m_dbcboCourses);
+        m_dbcboCourses->clear();
+        m_dbcboCourses->addItems(courses);
+        const int at = courses.indexOf(course);
+        m_dbcboCourses->setCurrentIndex(at >= 0 ? at : (courses.isEmpty() ? -1 : 0));
+    }
+    const QStringList teesList = TeesOf(db(), m_dbcboCourses->currentText());
+    m_cboTees->clear();
+    m_cboTees->addItems(teesList);
+    const int at = teesList.indexOf(tees);
+    m_cboTees->setCurrentIndex(at >= 0 ? at : (teesList.isEmpty() ? -1 : 0));
+    if (m_dbcboCourses->currentText().compare(m_returnCourse, Qt::CaseInsensitive) != 0)
+        clearReturnPanel();
 }
 
 bool frmCourseInfo::selectedCourse(QString &course, QString &tees) const
@@ -166,7 +192,7 @@ void frmCourseInfo::courseChanged()
         teesChosen();
     }
     // The way back holds only for the course it was made for.
-    if (course != m_returnCourse)
+    if (course.compare(m_returnCourse, Qt::CaseInsensitive) != 0)
         clearReturnPanel();
 }
 
@@ -175,7 +201,7 @@ void frmCourseInfo::teesChosen()
     const QString tees = m_cboTees->currentText();
     if (tees.isEmpty())
         return;
-    if (tees != m_returnTees)
+    if (tees.compare(m_returnTees, Qt::CaseInsensitive) != 0)
         clearReturnPanel();
     ClearCourseInfo();
     const CourseCard card = LoadCourseCard(db(), m_dbcboCourses->currentText(), tees);

@@ -26,6 +26,8 @@ public:
 
 private:
     void courseChanged();
+    // Read the course and tees lists again, keeping the course and tees shown where they still are.
+    void refreshLists();
     void teesChosen();
     void ClearCourseInfo();
     void clearReturnPanel();

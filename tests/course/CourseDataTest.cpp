@@ -210,7 +210,7 @@ TEST_F(CourseData, EditWithNewTeesAddsASetAndLeavesTheOldOne)
     EXPECT_EQ(logRow("Pebble Creek", "Blue"),
               (QStringList{"Pebble Creek|Blue|73.1|125|35.7|124|35.8|126|4320|3510|7830|36|36|72"}));
     EXPECT_EQ(holes("Pebble Creek", "Blue").size(), 18);
-    EXPECT_EQ(TeesOf(app.db(), "Pebble Creek"), (QStringList{"Blue", "White"}));
+    EXPECT_EQ(TeesOf(app.db(), "Pebble Creek"), (QStringList{"White", "Blue"})) << "in the order entered";
 }
 
 TEST_F(CourseData, ANameWithAnApostropheIsStoredFoundAndDeleted)

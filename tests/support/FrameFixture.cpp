@@ -46,6 +46,17 @@ void FrameFixture::chooseGolfer(const QString &typed, bool isNew)
     frmNewGolfer::instance().GetNewGolfer();
 }
 
+void FrameFixture::startWithPalmer()
+{
+    basLogGlobals().gCourseCount =
+        qint16(Scalar(app.db(), QStringLiteral("SELECT COUNT(*) FROM CourseLog")).toInt());
+    const bool isNew = Scalar(app.db(), QStringLiteral("SELECT COUNT(*) FROM HandicapLog WHERE LastName = "
+                                                       "'Palmer' AND FirstName = 'Arnold'"))
+                           .toInt() == 0;
+    chooseGolfer(QStringLiteral("Palmer, Arnold"), isNew);
+    expectMessages(app.platform(), isNew ? QStringList{"Add golfer Arnold Palmer?"} : QStringList{});
+}
+
 QStringList FrameFixture::checkedViews() const
 {
     QStringList out;

@@ -20,6 +20,9 @@ protected:
     // Open the golfer dialog and answer it by typing `typed` and pressing OK; a new golfer is
     // asked its gender, answered "M".
     void chooseGolfer(const QString &typed, bool isNew = false);
+    // As the program starts over the fixture's rows: the course count taken, then golfer
+    // Palmer, Arnold chosen (added first when he is not there, which asks one question).
+    void startWithPalmer();
     // A menu item by name; triggering it runs its command as a click would.
     QAction *item(const QString &name) const { return frame->menuItem(name); }
     bool enabled(const QString &name) const { return item(name)->isEnabled(); }
