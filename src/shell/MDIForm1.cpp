@@ -8,11 +8,14 @@
 #include "course/frmNewCourse.h"
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmNewGolfer.h"
+#include "handicap/Handicap.h"
 #include "help/ApplicationIcon.h"
 #include "help/frmAbout.h"
 #include "help/frmHelp.h"
 #include "platform/Hourglass.h"
 #include "platform/Platform.h"
+#include "score/ScoreDelete.h"
+#include "score/frmScore.h"
 #include "ui/Guarded.h"
 #include "views/frmScoreLog.h"
 
@@ -309,6 +312,9 @@ void MDIForm1::wireCommands()
         frmNewCourse::instance().EditCourse(course, tees);
     });
     onItem("mnuViewCourseInfo", [this] { mnuViewCourseInfo_Click(); });
+    onItem("mnuNewScore", [] { frmScore::instance().NewScore(); });
+    onItem("mnuEditScore", [this] { mnuEditScore_Click(); });
+    onItem("mnuDeleteScore", [this] { DeleteScore(); });
     onItem("mnuDeleteCourse", [this] {
         frmDeleteCourse::instance().DeleteCourse();
         RefreshActiveView();
@@ -376,6 +382,54 @@ void MDIForm1::mnuViewCourseInfo_Click()
     QString course, tees;
     courseFromView(course, tees);
     ShowCourseInfo(course, tees, false);
+}
+
+void MDIForm1::mnuEditScore_Click()
+{
+    auto *log = qobject_cast<frmScoreLog *>(m_views->loaded(QStringLiteral("frmScoreLog")));
+    if (!log || log->selectedRow() < 0)
+        return;
+    frmScore::instance().EditScore(
+        log->selectedValue(QStringLiteral("CourseName")).toString(), log->selectedValue(QStringLiteral("Tees")).toString(),
+        QDate::fromString(log->selectedValue(QStringLiteral("Date")).toString(), Qt::ISODate),
+        log->selectedValue(QStringLiteral("ScoreIndex")).toLongLong());
+}
+
+void MDIForm1::DeleteScore()
+{
+    // The round that goes is the one selected in the log, also when its details stand in front.
+    auto *log = qobject_cast<frmScoreLog *>(m_views->loaded(QStringLiteral("frmScoreLog")));
+    if (!log || log->selectedRow() < 0)
+        return;
+    const qint64 scoreIndex = log->selectedValue(QStringLiteral("ScoreIndex")).toLongLong();
+    const QDate date = QDate::fromString(log->selectedValue(QStringLiteral("Date")).toString(), Qt::ISODate);
+    const QString course = log->selectedValue(QStringLiteral("CourseName")).toString();
+    const QString tees = log->selectedValue(QStringLiteral("Tees")).toString();
+
+    const QString details = QStringLiteral("frmViewScoreDetails");
+    const bool detailsOpen = m_views->loaded(details) != nullptr;
+    const QString question = detailsOpen
+                                 ? QStringLiteral("Are you sure you want to delete this score?")
+                                 : QStringLiteral("Are you sure you want to delete the selected score?");
+    if (platform().messageBox(question, MsgIcon::Question, QStringLiteral("Delete Score"), MsgButtons::YesNo,
+                              MsgAnswer::No) != MsgAnswer::Yes)
+        return;
+
+    LogGlobals &g = basLogGlobals();
+    DeleteScoreRows(db(), g.gLastName, g.gFirstName, scoreIndex, date, course, tees);
+    if (g.gScoreLog)
+        g.gScoreLog->requery();
+    ComputeHandicap();
+
+    if (ActiveFormName() == QLatin1String("frmScoreLog")) {
+        log->InitializeForm();
+        log->selectRow(0);
+    } else if (detailsOpen) {
+        // The details of a round that is gone have nothing to show: the log takes their place.
+        m_views->unload(details);
+        menuItem(QStringLiteral("mnuViewScoreLog"))->setChecked(true);
+        log->InitializeForm();
+    }
 }
 
 void MDIForm1::ShowCourseInfo(const QString &course, const QString &tees, bool fromScoreDetails)

@@ -108,6 +108,10 @@ private:
     void mnuNewGolfer_Click();
     void mnuViewScoreLog_Click();
     void mnuViewCourseInfo_Click();
+    // Edit, Score: the round selected in the score log.
+    void mnuEditScore_Click();
+    // Tools, Delete, Score: the round selected in the score log goes, after a question.
+    void DeleteScore();
     // The status bar's way back from the course card to the round it was opened from.
     void backToScoreDetails();
     void disableUnbuilt();

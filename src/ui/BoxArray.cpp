@@ -1,5 +1,7 @@
 #include "BoxArray.h"
 
+#include "NumericLineEdit.h"
+
 #include <QLineEdit>
 
 namespace quillon {
@@ -8,11 +10,16 @@ BoxArray::BoxArray(const QString &name, int first, int count, int maxLength, Key
     : QObject(parent), m_first(first)
 {
     for (int i = first; i < first + count; ++i) {
-        auto *box = new QLineEdit(parent);
+        QLineEdit *box = nullptr;
+        if (rule == KeyRule::Digits) {
+            box = new NumericLineEdit(parent);
+        } else {
+            box = new QLineEdit(parent);
+            ApplyKeyRule(box, rule);
+        }
         box->setObjectName(QStringLiteral("%1_%2").arg(name).arg(i));
         box->setMaxLength(maxLength);
         box->setAlignment(Qt::AlignCenter);
-        ApplyKeyRule(box, rule);
         connect(box, &QLineEdit::textChanged, this, [this, i] { emit changed(i); });
         m_boxes.append(box);
     }

@@ -50,6 +50,7 @@ bool KeyRuleAccepts(KeyRule rule, QChar typed, const QString &current)
             return true;
         return typed == QLatin1Char('0') && !current.isEmpty();
     case KeyRule::Par: return typed >= QLatin1Char('3') && typed <= QLatin1Char('6');
+    case KeyRule::Digits: return typed >= QLatin1Char('0') && typed <= QLatin1Char('9');
     }
     return false;
 }

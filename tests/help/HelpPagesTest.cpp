@@ -44,8 +44,8 @@ bool hasPlace(const QString &html, const QString &place)
 TEST(HelpPagesTest, TheExpectedPagesAreThere)
 {
     const QStringList present = pages();
-    for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "scorelog.html",
-                             "menus.html", "handicap.html", "about.html"})
+    for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "score.html",
+                             "scorelog.html", "menus.html", "handicap.html", "about.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -122,6 +122,13 @@ TEST(HelpPagesTest, CoursePageHoldsItsPlaces)
 {
     const QString html = read(kHelp.filePath(QStringLiteral("course.html")));
     for (const char *place : {"new", "edit", "info", "delete"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+}
+
+TEST(HelpPagesTest, ScorePageHoldsItsPlaces)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("score.html")));
+    for (const char *place : {"new", "edit", "adjusted", "delete"})
         EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
 }
 
