@@ -52,7 +52,7 @@ QString sumName(CardRow row, CardSum sum)
 
 } // namespace
 
-frmNewCourse::frmNewCourse(QWidget *parent) : ViewForm(parent)
+frmNewCourse::frmNewCourse(QWidget *parent) : EntryForm(parent)
 {
     setObjectName(QStringLiteral("frmNewCourse"));
     setWindowTitle(QStringLiteral("New Course"));
@@ -116,18 +116,10 @@ frmNewCourse::frmNewCourse(QWidget *parent) : ViewForm(parent)
     // The rating and slope calculator is not part of this build.
     m_cmdCalculate->setEnabled(false);
     buttons->addWidget(m_cmdCalculate);
-    buttons->addStretch(1);
-    m_cmdSave = new QPushButton(QStringLiteral("&Save"), this);
-    m_cmdSave->setObjectName(QStringLiteral("cmdSave"));
-    m_cmdSave->setEnabled(false);
-    m_cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    m_cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    buttons->addWidget(m_cmdSave);
-    buttons->addWidget(m_cmdCancel);
+    addSaveAndCancel(buttons);
     layout->addLayout(buttons);
     m_tabOrder << m_cmdCalculate << m_cmdSave << m_cmdCancel;
-    for (int i = 1; i < m_tabOrder.size(); ++i)
-        setTabOrder(m_tabOrder.at(i - 1), m_tabOrder.at(i));
+    applyTabOrder(m_tabOrder);
 
     connect(m_txtCourse, &QLineEdit::textChanged, this, [this] { UpdateSaveButton(); });
     connect(m_cboCourses, &QComboBox::activated, this,
@@ -141,7 +133,6 @@ frmNewCourse::frmNewCourse(QWidget *parent) : ViewForm(parent)
     connect(m_yards, &BoxArray::changed, this, [this](int i) { rowChanged(CardRow::Yards, i); });
     connect(m_hdcp, &BoxArray::changed, this, [this](int i) { hdcpChanged(i); });
     connect(m_cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    connect(m_cmdCancel, &QPushButton::clicked, this, [this] { closeForm(); });
 
     // Whatever the user types or chooses is input not yet saved.
     for (QLineEdit *box : findChildren<QLineEdit *>())
@@ -220,20 +211,6 @@ void frmNewCourse::buildSpinners(QLineEdit *box, const QString &name, bool slope
     static_cast<QHBoxLayout *>(cell->layout())->addLayout(column);
 }
 
-void frmNewCourse::keyPressEvent(QKeyEvent *event)
-{
-    // Keys no box took: F1 opens the help of the mode, Escape is Cancel as in a dialog.
-    if (event->key() == Qt::Key_F1) {
-        platform().showHelp(m_helpAnchor);
-        return;
-    }
-    if (event->key() == Qt::Key_Escape) {
-        m_cmdCancel->click();
-        return;
-    }
-    ViewForm::keyPressEvent(event);
-}
-
 bool frmNewCourse::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
@@ -247,7 +224,7 @@ bool frmNewCourse::eventFilter(QObject *watched, QEvent *event)
             }
         }
     }
-    return ViewForm::eventFilter(watched, event);
+    return EntryForm::eventFilter(watched, event);
 }
 
 void frmNewCourse::NewCourse()
@@ -506,22 +483,6 @@ bool frmNewCourse::save(bool withDetails)
 void frmNewCourse::FormActivate()
 {
     RunGuarded([] { frame().UpdateMenus(QStringLiteral("frmNewCourse")); });
-}
-
-void frmNewCourse::closeForm()
-{
-    markUnsaved(false);
-    if (parentWidget())
-        parentWidget()->close(); // the child window, and the form with it
-    else
-        deleteLater(); // never shown
-}
-
-void frmNewCourse::markUnsaved(bool unsaved)
-{
-    if (unsaved && m_filling)
-        return;
-    setProperty("unsavedInput", unsaved);
 }
 
 } // namespace quillon

@@ -2,7 +2,7 @@
 
 #include "CourseEntry.h"
 #include "CourseCardLayout.h"
-#include "ui/ViewHost.h"
+#include "ui/EntryForm.h"
 
 #include <QHash>
 
@@ -19,7 +19,7 @@ class BoxArray;
 // The one form through which course data enters: a new set of tees (of a new or a known
 // course), or an existing set changed, or a further set added to a known course.  Every
 // value lives as the text of its control until it is saved.
-class frmNewCourse : public ViewForm {
+class frmNewCourse : public EntryForm {
     Q_OBJECT
 public:
     explicit frmNewCourse(QWidget *parent = nullptr);
@@ -31,8 +31,6 @@ public:
     void EditCourse(const QString &courseName, const QString &tees);
     void FormActivate() override;
     bool editMode() const { return m_editMode; }
-    // The help page and place for the mode.
-    QString helpAnchor() const { return m_helpAnchor; }
 
     // The form's texts as the rules read them.
     CourseEntry entry() const;
@@ -41,7 +39,8 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    // The help page and place for the mode.
+    QString helpAnchor() const override { return m_helpAnchor; }
 
 private:
     QWidget *ratingCell(CardNine nine, bool slope);
@@ -54,8 +53,6 @@ private:
     void rowChanged(CardRow row, int index);
     void hdcpChanged(int index);
     bool save(bool withDetails);
-    void closeForm();
-    void markUnsaved(bool unsaved);
 
     bool m_editMode = false;
     QString m_helpAnchor;
@@ -68,10 +65,7 @@ private:
     BoxArray *m_hdcp = nullptr;
     QHash<QString, QLabel *> m_sums; // lblParOut ... lblYardsTotal
     QPushButton *m_cmdCalculate = nullptr;
-    QPushButton *m_cmdSave = nullptr;
-    QPushButton *m_cmdCancel = nullptr;
     QVector<QWidget *> m_tabOrder;
-    bool m_filling = false; // texts set by the form itself are not typed input
 };
 
 } // namespace quillon

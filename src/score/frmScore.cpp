@@ -71,7 +71,7 @@ int cellWidth(const QWidget *w)
 
 } // namespace
 
-frmScore::frmScore(QWidget *parent) : ViewForm(parent)
+frmScore::frmScore(QWidget *parent) : EntryForm(parent)
 {
     setObjectName(QStringLiteral("frmScore"));
     setWindowTitle(QStringLiteral("New Score"));
@@ -80,18 +80,10 @@ frmScore::frmScore(QWidget *parent) : ViewForm(parent)
     buildGrid(layout);
 
     auto *buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    m_cmdSave = new QPushButton(QStringLiteral("&Save"), this);
-    m_cmdSave->setObjectName(QStringLiteral("cmdSave"));
-    m_cmdSave->setEnabled(false);
-    m_cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    m_cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-    buttons->addWidget(m_cmdSave);
-    buttons->addWidget(m_cmdCancel);
+    addSaveAndCancel(buttons);
     layout->addLayout(buttons);
     m_tabOrder << m_cmdSave << m_cmdCancel;
-    for (int i = 1; i < m_tabOrder.size(); ++i)
-        setTabOrder(m_tabOrder.at(i - 1), m_tabOrder.at(i));
+    applyTabOrder(m_tabOrder);
 
     m_calendar = new QCalendarWidget(this);
     m_calendar->setObjectName(QStringLiteral("Calendar1"));
@@ -124,7 +116,6 @@ frmScore::frmScore(QWidget *parent) : ViewForm(parent)
     for (QCheckBox *fairway : m_chkFairway)
         connect(fairway, &QCheckBox::toggled, this, [this] { UpdateSaveButton(); });
     connect(m_cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
-    connect(m_cmdCancel, &QPushButton::clicked, this, [this] { closeForm(); });
 
     // Whatever the user types, ticks or chooses is input not yet saved; Enter moves on as Tab does.
     for (QLineEdit *box : findChildren<QLineEdit *>()) {
@@ -678,26 +669,13 @@ void frmScore::statTyped(StatBox box)
     UpdateSaveButton();
 }
 
-bool frmScore::leaveScoreBox(int index)
+void frmScore::refuseHoleBox(BoxArray *boxes, int index, const QString &message)
 {
-    const QString message = ScoreBoxLeft(index, m_txtScore->text(index), m_txtPutts->text(index));
     if (message.isEmpty())
-        return true;
+        return;
     platform().messageBox(message, MsgIcon::Exclamation, windowTitle());
-    m_txtScore->setText(index, QString());
-    m_txtScore->box(index)->setFocus();
-    return false;
-}
-
-bool frmScore::leavePuttsBox(int index)
-{
-    const QString message = PuttsBoxLeft(index, m_txtScore->text(index), m_txtPutts->text(index));
-    if (message.isEmpty())
-        return true;
-    platform().messageBox(message, MsgIcon::Exclamation, windowTitle());
-    m_txtPutts->setText(index, QString());
-    m_txtPutts->box(index)->setFocus();
-    return false;
+    boxes->setText(index, QString());
+    boxes->box(index)->setFocus();
 }
 
 bool frmScore::eventFilter(QObject *watched, QEvent *event)
@@ -706,10 +684,12 @@ bool frmScore::eventFilter(QObject *watched, QEvent *event)
         // The hole checks run as a box is left; the message may take the focus meanwhile.
         m_leaving = true;
         for (int i = 0; i < 18; ++i) {
+            const QString score = m_txtScore->text(i);
+            const QString putts = m_txtPutts->text(i);
             if (watched == m_txtScore->box(i))
-                leaveScoreBox(i);
+                refuseHoleBox(m_txtScore, i, ScoreBoxLeft(i, score, putts));
             else if (watched == m_txtPutts->box(i))
-                leavePuttsBox(i);
+                refuseHoleBox(m_txtPutts, i, PuttsBoxLeft(i, score, putts));
         }
         m_leaving = false;
     }
@@ -722,20 +702,12 @@ bool frmScore::eventFilter(QObject *watched, QEvent *event)
             return true;
         }
     }
-    return ViewForm::eventFilter(watched, event);
+    return EntryForm::eventFilter(watched, event);
 }
 
-void frmScore::keyPressEvent(QKeyEvent *event)
+QString frmScore::helpAnchor() const
 {
-    if (event->key() == Qt::Key_F1) {
-        platform().showHelp(m_editMode ? QStringLiteral("score.html#edit") : QStringLiteral("score.html#new"));
-        return;
-    }
-    if (event->key() == Qt::Key_Escape) {
-        m_cmdCancel->click();
-        return;
-    }
-    ViewForm::keyPressEvent(event);
+    return m_editMode ? QStringLiteral("score.html#edit") : QStringLiteral("score.html#new");
 }
 
 void frmScore::showCalendar()
@@ -847,23 +819,7 @@ void frmScore::cmdSave_Click()
         platform().messageBox(error.message(), MsgIcon::Critical, appTitle());
         return;
     }
-    setProperty("unsavedInput", false);
     closeForm();
-}
-
-void frmScore::closeForm()
-{
-    setProperty("unsavedInput", false);
-    if (parentWidget())
-        parentWidget()->close();
-    else
-        deleteLater(); // never shown
-}
-
-void frmScore::markUnsaved()
-{
-    if (!m_filling)
-        setProperty("unsavedInput", true);
 }
 
 } // namespace quillon

@@ -2,7 +2,7 @@
 
 #include "ScoreEntry.h"
 #include "ScoreGrid.h"
-#include "ui/ViewHost.h"
+#include "ui/EntryForm.h"
 
 #include <QDate>
 #include <QHash>
@@ -25,7 +25,7 @@ class BoxArray;
 
 // The form on which a round is entered (new mode) or changed (edit mode): course, tees, date,
 // holes, type, the optional statistics, and the hole grid of score, putts and fairway.
-class frmScore : public ViewForm {
+class frmScore : public EntryForm {
     Q_OBJECT
 public:
     explicit frmScore(QWidget *parent = nullptr);
@@ -47,7 +47,7 @@ public:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
+    QString helpAnchor() const override;
 
 private:
     void buildHeader(QVBoxLayout *layout);
@@ -67,18 +67,15 @@ private:
     void totalTyped();
     void puttsTyped(int index);
     void statTyped(StatBox box);
-    bool leaveScoreBox(int index);
-    bool leavePuttsBox(int index);
+    // The hole check of a box being left: its message, the box emptied and given the focus again.
+    void refuseHoleBox(BoxArray *boxes, int index, const QString &message);
     void UpdateSaveButton();
     void showCalendar();
-    void closeForm();
-    void markUnsaved();
     QLineEdit *statBox(StatBox box) const;
 
     bool m_editMode = false;
     qint64 m_scoreIndex = 0;
     QDate m_scoreDate;
-    bool m_filling = false;
     bool m_leaving = false; // a leave check is showing its message
 
     QComboBox *m_cboCourses = nullptr;
@@ -115,8 +112,6 @@ private:
     QLabel *m_lblInCaption = nullptr;
     QLabel *m_lblTotalCaption = nullptr;
 
-    QPushButton *m_cmdSave = nullptr;
-    QPushButton *m_cmdCancel = nullptr;
     QVector<QWidget *> m_tabOrder;
 };
 
