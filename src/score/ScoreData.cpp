@@ -4,6 +4,8 @@
 #include "core/DateText.h"
 #include "core/NumberText.h"
 #include "handicap/AdjustedScore.h"
+#include "handicap/Handicap.h"
+#include "shell/basLogGlobals.h"
 #include "store/Encodings.h"
 
 namespace quillon {
@@ -67,7 +69,7 @@ TeesHoles LoadTeesHoles(Connection &c, const QString &course, const QString &tee
 
 QVector<qint16> LoadHolePars(Connection &c, const QString &course, const QString &tees, QVector<qint16> pars)
 {
-    pars.resize(19);
+    pars.resize(18);
     Statement s = c.run(QStringLiteral("SELECT Hole, PAR FROM CourseDetails WHERE CourseName = ? AND Tees = ?"),
                         {course, tees});
     while (s.next()) {
@@ -254,8 +256,6 @@ void SaveEditedScore(Connection &c, const QString &last, const QString &first, q
 void FinishScore(Connection &c, const QString &last, const QString &first, qint64 scoreIndex, const ScoreEntry &e)
 {
     const QDate date = ParseDateText(e.date);
-    Exec(c, QStringLiteral("UPDATE ScoreLog SET Used = ? WHERE ScoreIndex = ?"),
-         {e.exclude ? UsedMark::Excluded : UsedMark::NotUsed, scoreIndex});
     // Every saved Home round makes its course the golfer's home course.
     if (e.type == 1)
         Exec(c, QStringLiteral("UPDATE HandicapLog SET HomeCourseName = ? WHERE LastName = ? AND FirstName = ?"),
@@ -274,8 +274,30 @@ void FinishScore(Connection &c, const QString &last, const QString &first, qint6
         rated = CourseRatingSlope(c, e.course, e.tees, e.holes).value_or(RatingSlope{});
     }
     const float differential = ComputeDifferential(adjusted, double(CSng(rated.rating)), rated.slope, e.holes);
-    Exec(c, QStringLiteral("UPDATE ScoreLog SET Differential = ?, AdjustedScore = ? WHERE ScoreIndex = ?"),
-         {CDbl(DifferentialText(differential)), adjusted, scoreIndex});
+    // The mark goes with the derived numbers: a fault before this leaves the row as the first stage wrote it.
+    Exec(c, QStringLiteral("UPDATE ScoreLog SET Used = ?, Differential = ?, AdjustedScore = ? WHERE ScoreIndex = ?"),
+         {e.exclude ? UsedMark::Excluded : UsedMark::NotUsed, CDbl(DifferentialText(differential)), adjusted,
+          scoreIndex});
+}
+
+qint64 SaveScore(Connection &c, const QString &last, const QString &first, qint64 scoreIndex, const ScoreEntry &e,
+                 bool details)
+{
+    if (e.editMode)
+        SaveEditedScore(c, last, first, scoreIndex, e, details);
+    else
+        scoreIndex = SaveNewScore(c, last, first, e, details);
+    FinishScore(c, last, first, scoreIndex, e);
+    LogGlobals &g = basLogGlobals();
+    if (g.gCommandString == QLatin1String("-h")) {
+        ComputeHandicap(); // it reads the golfer's held rows again itself
+    } else {
+        if (g.gScoreLog)
+            g.gScoreLog->requery();
+        if (g.gHandicapLog)
+            g.gHandicapLog->requery();
+    }
+    return scoreIndex;
 }
 
 } // namespace quillon

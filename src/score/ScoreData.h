@@ -63,4 +63,10 @@ void SaveEditedScore(Connection &c, const QString &last, const QString &first, q
 void FinishScore(Connection &c, const QString &last, const QString &first, qint64 scoreIndex,
                  const ScoreEntry &entry);
 
+// The whole save of a round as the Save button does it, once the checks have passed: the first
+// stage (new or edited), the second, then the handicap run, which reads the golfer's held rows
+// again.  Returns the round's ScoreIndex.
+qint64 SaveScore(Connection &c, const QString &last, const QString &first, qint64 scoreIndex, const ScoreEntry &entry,
+                 bool details);
+
 } // namespace quillon

@@ -5,7 +5,6 @@
 #include "ScoreValidation.h"
 #include "core/Convert.h"
 #include "core/DateText.h"
-#include "handicap/Handicap.h"
 #include "platform/Hourglass.h"
 #include "platform/Platform.h"
 #include "shell/basLogGlobals.h"
@@ -803,18 +802,7 @@ void frmScore::cmdSave_Click()
                                   MsgIcon::Critical, title);
             return;
         }
-        if (m_editMode) {
-            SaveEditedScore(db(), g.gLastName, g.gFirstName, m_scoreIndex, e, check.detailsEntered);
-        } else {
-            m_scoreIndex = SaveNewScore(db(), g.gLastName, g.gFirstName, e, check.detailsEntered);
-        }
-        FinishScore(db(), g.gLastName, g.gFirstName, m_scoreIndex, e);
-        if (g.gCommandString == QLatin1String("-h"))
-            ComputeHandicap();
-        if (g.gScoreLog)
-            g.gScoreLog->requery();
-        if (g.gHandicapLog)
-            g.gHandicapLog->requery();
+        m_scoreIndex = SaveScore(db(), g.gLastName, g.gFirstName, m_scoreIndex, e, check.detailsEntered);
     } catch (const QuillonError &error) {
         platform().messageBox(error.message(), MsgIcon::Critical, appTitle());
         return;
