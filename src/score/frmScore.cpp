@@ -803,6 +803,7 @@ void frmScore::cmdSave_Click()
             return;
         }
         m_scoreIndex = SaveScore(db(), g.gLastName, g.gFirstName, m_scoreIndex, e, check.detailsEntered);
+        frame().ScoreSaved();
     } catch (const QuillonError &error) {
         platform().messageBox(error.message(), MsgIcon::Critical, appTitle());
         return;

@@ -18,6 +18,9 @@
 #include "score/frmScore.h"
 #include "ui/Guarded.h"
 #include "views/frmScoreLog.h"
+#include "views/frmScoringRecord.h"
+#include "views/frmUltimateScore.h"
+#include "views/frmViewScoreDetails.h"
 
 #include <QAction>
 #include <QApplication>
@@ -203,13 +206,19 @@ MDIForm1::MDIForm1()
 
     m_views = new ViewHost(
         *m_mdiArea, [this](const QString &name) { return menuItem(name); }, this);
-    m_views->registerView(QStringLiteral("frmScoreLog"), QStringLiteral("mnuViewScoreLog"), [] {
+    m_views->registerView(QStringLiteral("frmScoreLog"), QStringLiteral("mnuViewScoreLog"), [this] {
         auto *log = new frmScoreLog;
-        // Score details come with their own view; until then the request has nowhere to go.
+        connect(log, &frmScoreLog::scoreDetailsRequested, this, &MDIForm1::ShowScoreDetails);
         return log;
     });
+    // The details of a round stand over the log, which stays the checked view.
+    m_views->registerView(QStringLiteral("frmViewScoreDetails"), QString(), [] { return new frmViewScoreDetails; });
     m_views->registerView(QStringLiteral("frmCourseInfo"), QStringLiteral("mnuViewCourseInfo"),
                           [] { return new frmCourseInfo; });
+    m_views->registerView(QStringLiteral("frmScoringRecord"), QStringLiteral("mnuViewScoringRecord"),
+                          [] { return new frmScoringRecord; });
+    m_views->registerView(QStringLiteral("frmUltimateScore"), QStringLiteral("mnuViewUltimateScorecard"),
+                          [] { return new frmUltimateScore; });
     wireCommands();
 
     LogGlobals &g = basLogGlobals();
@@ -312,7 +321,24 @@ void MDIForm1::wireCommands()
         frmNewCourse::instance().EditCourse(course, tees);
     });
     onItem("mnuViewCourseInfo", [this] { mnuViewCourseInfo_Click(); });
+    onItem("mnuViewScoringRecord", [this] { m_views->switchTo(QStringLiteral("frmScoringRecord")); });
+    onItem("mnuViewUltimateScorecard", [this] {
+        if (menuItem(QStringLiteral("mnuViewUltimateScorecard"))->isChecked())
+            return;
+        QString course, tees;
+        courseFromView(course, tees);
+        Hourglass hourglass;
+        const QString name = QStringLiteral("frmUltimateScore");
+        if (loadFilled(name, [&](ViewForm &view) {
+                return static_cast<frmUltimateScore &>(view).ShowUltimateScore(course, tees);
+            }))
+            m_views->switchTo(name);
+    });
     onItem("mnuNewScore", [] { frmScore::instance().NewScore(); });
+    connect(menuItem(QStringLiteral("mnuSLViewScoreDetails")), &QAction::triggered, this, [this] {
+        if (auto *log = qobject_cast<frmScoreLog *>(m_views->loaded(QStringLiteral("frmScoreLog"))))
+            RunGuarded([log] { log->ShowScoreDetails(); });
+    });
     onItem("mnuEditScore", [this] { mnuEditScore_Click(); });
     onItem("mnuDeleteScore", [this] { DeleteScore(); });
     onItem("mnuDeleteCourse", [this] {
@@ -381,7 +407,8 @@ void MDIForm1::mnuViewCourseInfo_Click()
         return;
     QString course, tees;
     courseFromView(course, tees);
-    ShowCourseInfo(course, tees, false);
+    // From a round's details the card keeps a way back to them.
+    ShowCourseInfo(course, tees, ActiveFormName() == QLatin1String("frmViewScoreDetails"));
 }
 
 void MDIForm1::mnuEditScore_Click()
@@ -436,11 +463,10 @@ void MDIForm1::ShowCourseInfo(const QString &course, const QString &tees, bool f
 {
     Hourglass hourglass;
     const QString name = QStringLiteral("frmCourseInfo");
-    auto &info = static_cast<frmCourseInfo &>(m_views->load(name));
-    if (!info.ShowCourseInfo(course, tees, fromScoreDetails)) {
-        m_views->unload(name);
+    if (!loadFilled(name, [&](ViewForm &view) {
+            return static_cast<frmCourseInfo &>(view).ShowCourseInfo(course, tees, fromScoreDetails);
+        }))
         return;
-    }
     if (fromScoreDetails) {
         // The card goes over the round it was asked from, which stays loaded beneath it: the
         // status bar's panel leads back there.
@@ -449,6 +475,14 @@ void MDIForm1::ShowCourseInfo(const QString &course, const QString &tees, bool f
         return;
     }
     m_views->switchTo(name);
+}
+
+bool MDIForm1::loadFilled(const QString &formName, const std::function<bool(ViewForm &)> &fill)
+{
+    if (fill(m_views->load(formName)))
+        return true;
+    m_views->unload(formName);
+    return false;
 }
 
 void MDIForm1::backToScoreDetails()
@@ -500,11 +534,43 @@ void MDIForm1::RefreshActiveView()
          QStringLiteral("frmGolferStats"), QStringLiteral("frmGraphs")});
     if (checked.isEmpty())
         return;
-    if (checked == QLatin1String("frmScoreLog") && m_views->loaded(QStringLiteral("frmViewScoreDetails"))) {
-        m_views->show(QStringLiteral("frmViewScoreDetails"));
-        return;
+    if (checked == QLatin1String("frmScoreLog")) {
+        if (auto *details = qobject_cast<frmViewScoreDetails *>(m_views->loaded(QStringLiteral("frmViewScoreDetails")))) {
+            details->UpdateDetails();
+            return;
+        }
+    }
+    if (checked == QLatin1String("frmUltimateScore")) {
+        if (auto *card = qobject_cast<frmUltimateScore *>(m_views->loaded(checked))) {
+            card->UpdateScorecard();
+            return;
+        }
+        // The views were closed meanwhile (a golfer dialog cancelled): the card opens afresh.
+        if (!loadFilled(checked, [](ViewForm &view) {
+                return static_cast<frmUltimateScore &>(view).ShowUltimateScore(QString(), QString());
+            }))
+            return;
     }
     m_views->show(checked);
+}
+
+void MDIForm1::ShowScoreDetails(const QString &course, const QString &tees, const QDate &date, qint64 scoreIndex,
+                                const QVariant &score)
+{
+    Hourglass hourglass;
+    const QString name = QStringLiteral("frmViewScoreDetails");
+    auto &details = static_cast<frmViewScoreDetails &>(m_views->load(name));
+    details.ShowDetails(course, tees, date, scoreIndex, score);
+    m_views->show(name);
+}
+
+void MDIForm1::ScoreSaved()
+{
+    // The open view that shows rounds reads them again; only one is served.
+    if (auto *details = qobject_cast<frmViewScoreDetails *>(m_views->loaded(QStringLiteral("frmViewScoreDetails"))))
+        details->UpdateDetails();
+    else if (auto *card = qobject_cast<frmUltimateScore *>(m_views->loaded(QStringLiteral("frmUltimateScore"))))
+        card->UpdateScorecard();
 }
 
 void MDIForm1::setPanelText(const QString &key, const QString &text)

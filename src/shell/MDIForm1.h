@@ -71,6 +71,10 @@ public:
 
     // The course card of a course (its first tees), as the View item and score details open it.
     void ShowCourseInfo(const QString &course, const QString &tees, bool fromScoreDetails);
+    // The details of a round, over the score log.
+    void ShowScoreDetails(const QString &course, const QString &tees, const QDate &date, qint64 scoreIndex,
+                          const QVariant &score);
+    void ScoreSaved() override;
     // The course and tees of the view in front; false when it has none.
     bool courseFromView(QString &course, QString &tees) const;
 
@@ -108,6 +112,8 @@ private:
     void mnuNewGolfer_Click();
     void mnuViewScoreLog_Click();
     void mnuViewCourseInfo_Click();
+    // Load a view and let it fill itself; a view with nothing to show goes again, and false.
+    bool loadFilled(const QString &formName, const std::function<bool(ViewForm &)> &fill);
     // Edit, Score: the round selected in the score log.
     void mnuEditScore_Click();
     // Tools, Delete, Score: the round selected in the score log goes, after a question.

@@ -40,6 +40,8 @@ public:
     // End the program now, releasing what it holds.
     virtual void EndProgram() = 0;
     virtual QWidget *frameWidget() = 0;
+    // A round was saved: the open view that shows rounds reads them again.
+    virtual void ScoreSaved() = 0;
     // Show an entry form over the views, active, in its own size.
     virtual void openChild(ViewForm *form) = 0;
 };

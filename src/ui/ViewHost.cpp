@@ -14,6 +14,8 @@ ViewHost::ViewHost(QMdiArea &area, MenuLookup menuItem, QObject *parent)
     connect(&m_area, &QMdiArea::subWindowActivated, this, &ViewHost::activated);
     // Views are maximized by show(); an entry form over them keeps its own size.
     m_area.setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
+    // A closed form hands the activation back to the one that was active before it.
+    m_area.setActivationOrder(QMdiArea::ActivationHistoryOrder);
 }
 
 void ViewHost::registerView(const QString &formName, const QString &checkItem, Factory factory)

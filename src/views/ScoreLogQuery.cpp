@@ -19,13 +19,27 @@ SqlStatement ScoreLogStatement(const QString &last, const QString &first, ScoreL
         break;
     case ScoreLogSelection::All: break;
     }
-    if (!order.isEmpty()) {
-        // The order is one of the grid's own sort texts, never typed by a user.
-        const bool descending = order.endsWith(QLatin1String(" DESC"), Qt::CaseInsensitive);
-        s.sql += QStringLiteral(" ORDER BY ") + order + QStringLiteral(", ScoreIndex") +
-                 (descending ? QStringLiteral(" DESC") : QString());
-    }
+    s.sql += OrderByWithTiebreak(order);
     return s;
+}
+
+QString OrderByWithTiebreak(const QString &order)
+{
+    if (order.isEmpty())
+        return QString();
+    const bool descending = order.endsWith(QLatin1String(" DESC"), Qt::CaseInsensitive);
+    return QStringLiteral(" ORDER BY ") + order + QStringLiteral(", ScoreIndex") +
+           (descending ? QStringLiteral(" DESC") : QString());
+}
+
+QString OneDecimalCell(const QVariant &value)
+{
+    return Format(value.toDouble(), QStringLiteral("###.0"));
+}
+
+QString DateCell(const QVariant &value)
+{
+    return DateText(ParseDateText(value.toString()));
 }
 
 QString ScoreLogSortColumn(int position)
@@ -69,8 +83,8 @@ QString EmptyScoreLogMessage(ScoreLogSelection selection, int currentYear)
 
 QVector<GridColumn> ScoreLogColumns(bool handicapMode)
 {
-    const auto oneDecimal = [](const QVariant &v) { return Format(v.toDouble(), QStringLiteral("###.0")); };
-    const auto date = [](const QVariant &v) { return DateText(ParseDateText(v.toString())); };
+    const auto oneDecimal = &OneDecimalCell;
+    const auto date = &DateCell;
     const Qt::Alignment right = Qt::AlignRight | Qt::AlignVCenter;
     const Qt::Alignment left = Qt::AlignLeft | Qt::AlignVCenter;
     const Qt::Alignment centre = Qt::AlignCenter;

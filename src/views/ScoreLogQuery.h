@@ -29,6 +29,13 @@ QString NextSortOrder(const QString &current, const QString &column);
 // What stands in place of an empty grid.
 QString EmptyScoreLogMessage(ScoreLogSelection selection, int currentYear);
 
+// " ORDER BY <order>, ScoreIndex" with the tie broken in the order's own direction; empty for no order.
+// The order is one of a grid's own sort texts, never typed by a user.
+QString OrderByWithTiebreak(const QString &order);
+// Cell texts the round grids share: one decimal ("###.0") and the date as M/d/yyyy.
+QString OneDecimalCell(const QVariant &value);
+QString DateCell(const QVariant &value);
+
 // The grid's columns by position; LastName, FirstName and ScoreIndex are hidden.  Without the
 // handicap features the score column shows Score and Differential and Used are hidden.
 QVector<GridColumn> ScoreLogColumns(bool handicapMode);
