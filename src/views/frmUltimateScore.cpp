@@ -4,6 +4,7 @@
 #include "core/DateText.h"
 #include "platform/Platform.h"
 #include "shell/basLogGlobals.h"
+#include "ui/CourseTeesRow.h"
 #include "ui/Guarded.h"
 
 #include <QCheckBox>
@@ -148,24 +149,9 @@ frmUltimateScore::frmUltimateScore(QWidget *parent) : ViewForm(parent)
         "best on each hole!"));
     layout->addWidget(m_lblDescription);
 
-    auto *names = new QHBoxLayout;
-    auto *courseCaption = new QLabel(QStringLiteral("Course:"), this);
-    m_dbcboCourses = new QComboBox(this);
-    m_dbcboCourses->setObjectName(QStringLiteral("dbcboCourses"));
-    m_dbcboCourses->setMinimumWidth(260);
-    courseCaption->setBuddy(m_dbcboCourses);
-    auto *teesCaption = new QLabel(QStringLiteral("Tees:"), this);
-    m_cboTees = new QComboBox(this);
-    m_cboTees->setObjectName(QStringLiteral("cboTees"));
-    m_cboTees->setMinimumWidth(160);
-    teesCaption->setBuddy(m_cboTees);
-    names->addWidget(courseCaption);
-    names->addWidget(m_dbcboCourses, 1);
-    names->addSpacing(16);
-    names->addWidget(teesCaption);
-    names->addWidget(m_cboTees);
-    names->addStretch(1);
-    layout->addLayout(names);
+    const CourseTeesLists lists = AddCourseTeesRow(this, layout);
+    m_dbcboCourses = lists.courses;
+    m_cboTees = lists.tees;
 
     m_chkCurrentYear = new QCheckBox(QStringLiteral("Show ultimate scorecard for current year only"), this);
     m_chkCurrentYear->setObjectName(QStringLiteral("chkCurrentYear"));

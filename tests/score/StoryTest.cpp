@@ -33,14 +33,7 @@ public:
         box->selectAll();
         QTest::keyClicks(box, text);
     }
-    static void choose(QWidget *form, const QString &list, const QString &text)
-    {
-        auto *box = findControl<QComboBox>(form, list);
-        const int index = box->findText(text);
-        ASSERT_GE(index, 0) << text.toStdString();
-        box->setCurrentIndex(index);
-        emit box->activated(index);
-    }
+    static void choose(QWidget *form, const QString &list, const QString &text) { ChooseItem(findControl<QComboBox>(form, list), text); }
 
     void enterCourse()
     {

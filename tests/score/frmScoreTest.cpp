@@ -44,14 +44,7 @@ public:
         ASSERT_NE(form, nullptr);
     }
     // Choose an item of a list as the user does.
-    void choose(const QString &list, const QString &text)
-    {
-        auto *box = findControl<QComboBox>(form, list);
-        const int index = box->findText(text);
-        ASSERT_GE(index, 0) << text.toStdString();
-        box->setCurrentIndex(index);
-        emit box->activated(index);
-    }
+    void choose(const QString &list, const QString &text) { ChooseItem(findControl<QComboBox>(form, list), text); }
     void openNewOn(const QString &course, const QString &tees = QStringLiteral("White"))
     {
         openNew();

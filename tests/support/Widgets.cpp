@@ -80,6 +80,33 @@ void ModalScript::poll()
     QTimer::singleShot(0, dialog, [answer = std::move(next.answer), dialog] { answer(dialog); });
 }
 
+QStringList ListItems(const QComboBox *box)
+{
+    QStringList out;
+    for (int i = 0; box && i < box->count(); ++i)
+        out << box->itemText(i);
+    return out;
+}
+
+void PickByKeyboard(QComboBox *box, const QString &text)
+{
+    const int target = box->findText(text);
+    ASSERT_GE(target, 0) << text.toStdString();
+    box->setFocus();
+    while (box->currentIndex() < target)
+        QTest::keyClick(box, Qt::Key_Down);
+    while (box->currentIndex() > target)
+        QTest::keyClick(box, Qt::Key_Up);
+}
+
+void ChooseItem(QComboBox *box, const QString &text)
+{
+    const int index = box->findText(text);
+    ASSERT_GE(index, 0) << text.toStdString();
+    box->setCurrentIndex(index);
+    emit box->activated(index);
+}
+
 void typeInto(const QObject *root, const QString &name, const QString &text)
 {
     QWidget *w = findControl<QWidget>(root, name);

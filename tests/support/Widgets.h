@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPointer>
 #include <QString>
 #include <QTimer>
@@ -55,6 +56,13 @@ private:
     int m_pollsOnCurrent = 0;
     QTimer m_timer;
 };
+
+// The texts of a list's items, in order.
+QStringList ListItems(const QComboBox *box);
+// Choose an item of a list the way the keyboard does: each step is a choice of the user.
+void PickByKeyboard(QComboBox *box, const QString &text);
+// Choose an item of a list as a click does: made current, then announced as chosen.
+void ChooseItem(QComboBox *box, const QString &text);
 
 // Type text into a named line edit or combo box as a user would, key by key.
 void typeInto(const QObject *root, const QString &name, const QString &text);

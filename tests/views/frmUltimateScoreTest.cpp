@@ -68,24 +68,8 @@ protected:
     {
         return findControl<QCheckBox>(card(), QStringLiteral("chkCurrentYear"));
     }
-    static QStringList items(QComboBox *box)
-    {
-        QStringList out;
-        for (int i = 0; box && i < box->count(); ++i)
-            out << box->itemText(i);
-        return out;
-    }
-    // Choose an item of a list the way the keyboard does: each step is a choice of the user.
-    static void pick(QComboBox *box, const QString &text)
-    {
-        const int target = box->findText(text);
-        ASSERT_GE(target, 0) << text.toStdString();
-        box->setFocus();
-        while (box->currentIndex() < target)
-            QTest::keyClick(box, Qt::Key_Down);
-        while (box->currentIndex() > target)
-            QTest::keyClick(box, Qt::Key_Up);
-    }
+    static QStringList items(QComboBox *box) { return ListItems(box); }
+    static void pick(QComboBox *box, const QString &text) { PickByKeyboard(box, text); }
     void openFromMenu() { item(QStringLiteral("mnuViewUltimateScorecard"))->trigger(); }
 
     // A round entered hole by hole: scores[i] on hole firstHole + i.
