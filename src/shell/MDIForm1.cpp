@@ -200,6 +200,8 @@ MDIForm1::MDIForm1()
     setWindowIcon(ApplicationIcon());
 
     buildMenus();
+    // The score log starts with all scores, and its View item says so.
+    menuItem(QStringLiteral("mnuViewAll"))->setChecked(true);
     buildToolbar();
     buildStatusBar();
     placeOnScreen();

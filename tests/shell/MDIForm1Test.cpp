@@ -186,6 +186,13 @@ TEST_F(MDIForm1Test, FrameIsNamedAndCaptioned)
     EXPECT_NE(frame.mdiArea(), nullptr);
 }
 
+TEST_F(MDIForm1Test, TheScoreLogStartsWithAllScoresChecked)
+{
+    EXPECT_TRUE(frame.menuItem("mnuViewAll")->isChecked());
+    EXPECT_FALSE(frame.menuItem("mnuViewUsed")->isChecked());
+    EXPECT_FALSE(frame.menuItem("mnuViewCurrent")->isChecked());
+}
+
 TEST_F(MDIForm1Test, OneFrameCreatedOnFirstUse)
 {
     EXPECT_EQ(MDIForm1::existing(), &frame);
