@@ -1,5 +1,8 @@
 #include "TestPrinting.h"
 #include "views/RoundStatistics.h"
+#include "views/ScoreColours.h"
+
+#include <QLabel>
 
 #include <gtest/gtest.h>
 
@@ -114,4 +117,31 @@ TEST(RoundStatistics, AnEmptyRoundCountsNothing)
     EXPECT_FALSE(s.greens.has_value());
     EXPECT_EQ(s.fairways, QStringLiteral("N/A"));
     EXPECT_EQ(s.avgPar5, QStringLiteral("0.0"));
+}
+
+TEST(ScoreColours, MarksByScoreToParAndTextThatReadsOnThem)
+{
+    EXPECT_EQ(ScoreToParColour(0), QColor(255, 255, 0));
+    EXPECT_EQ(ScoreToParColour(-1), QColor(0, 255, 0));
+    EXPECT_EQ(ScoreToParColour(-2), QColor(0, 255, 255));
+    for (int other : {-3, 1, 2, 5})
+        EXPECT_FALSE(ScoreToParColour(other).has_value()) << other;
+    for (int mark : {0, -1, -2})
+        EXPECT_EQ(TextColourOn(*ScoreToParColour(mark)), QColor(Qt::black)) << "bright marks take dark text";
+    EXPECT_EQ(TextColourOn(QColor(20, 20, 60)), QColor(Qt::white));
+
+    // On a dark desktop the label's own text is light; a marked cell still reads dark on yellow.
+    QLabel label;
+    QPalette dark = label.palette();
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Window, QColor(30, 30, 30));
+    label.setPalette(dark);
+    PaintScoreLabel(label, ScoreToParColour(0));
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::black));
+    EXPECT_EQ(label.palette().color(QPalette::Window), QColor(255, 255, 0));
+    EXPECT_TRUE(label.autoFillBackground());
+    EXPECT_EQ(label.property("scoreColour").toString(), QStringLiteral("#ffff00"));
+    PaintScoreLabel(label, std::nullopt);
+    EXPECT_FALSE(label.autoFillBackground());
+    EXPECT_FALSE(label.property("scoreColour").isValid());
 }
