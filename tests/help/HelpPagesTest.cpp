@@ -45,7 +45,7 @@ TEST(HelpPagesTest, TheExpectedPagesAreThere)
 {
     const QStringList present = pages();
     for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "score.html",
-                             "scorelog.html", "menus.html", "handicap.html", "about.html"})
+                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -129,6 +129,13 @@ TEST(HelpPagesTest, ScorePageHoldsItsPlaces)
 {
     const QString html = read(kHelp.filePath(QStringLiteral("score.html")));
     for (const char *place : {"new", "edit", "adjusted", "delete"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+}
+
+TEST(HelpPagesTest, ViewsPageHoldsItsPlaces)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("views.html")));
+    for (const char *place : {"record", "details", "ultimate"})
         EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
 }
 
