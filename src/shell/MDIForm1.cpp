@@ -16,6 +16,7 @@
 #include "platform/Platform.h"
 #include "score/ScoreDelete.h"
 #include "score/frmScore.h"
+#include "stats/frmGolferStats.h"
 #include "ui/Guarded.h"
 #include "views/frmScoreLog.h"
 #include "views/frmScoringRecord.h"
@@ -217,6 +218,8 @@ MDIForm1::MDIForm1()
     m_views->registerView(QStringLiteral("frmViewScoreDetails"), QString(), [] { return new frmViewScoreDetails; });
     m_views->registerView(QStringLiteral("frmCourseInfo"), QStringLiteral("mnuViewCourseInfo"),
                           [] { return new frmCourseInfo; });
+    m_views->registerView(QStringLiteral("frmGolferStats"), QStringLiteral("mnuViewGolferStatistics"),
+                          [] { return new frmGolferStats; });
     m_views->registerView(QStringLiteral("frmScoringRecord"), QStringLiteral("mnuViewScoringRecord"),
                           [] { return new frmScoringRecord; });
     m_views->registerView(QStringLiteral("frmUltimateScore"), QStringLiteral("mnuViewUltimateScorecard"),
@@ -323,6 +326,7 @@ void MDIForm1::wireCommands()
         frmNewCourse::instance().EditCourse(course, tees);
     });
     onItem("mnuViewCourseInfo", [this] { mnuViewCourseInfo_Click(); });
+    onItem("mnuViewGolferStatistics", [this] { m_views->switchTo(QStringLiteral("frmGolferStats")); });
     onItem("mnuViewScoringRecord", [this] { m_views->switchTo(QStringLiteral("frmScoringRecord")); });
     onItem("mnuViewUltimateScorecard", [this] {
         if (menuItem(QStringLiteral("mnuViewUltimateScorecard"))->isChecked())

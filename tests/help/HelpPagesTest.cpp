@@ -45,7 +45,7 @@ TEST(HelpPagesTest, TheExpectedPagesAreThere)
 {
     const QStringList present = pages();
     for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "score.html",
-                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html"})
+                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html", "stats.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -149,3 +149,10 @@ TEST(HelpPagesTest, TheBuildLaysEveryFileBesideTheProgram)
 }
 
 } // namespace
+
+TEST(HelpPagesTest, StatisticsPageHoldsItsPlaces)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("stats.html")));
+    for (const char *place : {"stats", "pages", "terms"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+}

@@ -89,7 +89,7 @@ TEST(CellTexts, NumbersShowAsTheyAreStored)
 const int kPars[18] = {4, 4, 3, 5, 4, 4, 3, 4, 5, 4, 4, 3, 5, 4, 4, 3, 4, 5};
 
 struct PassCase {
-    const char *name;
+    const char *name = "";
     std::map<int, QVector<QVariant>> rows; // by hole number, 1 to 18
     std::map<int, QString> parCaptions;    // captions that differ from kPars, by hole number
     std::map<int, QString> cells;          // every hole that is written, with its text
@@ -118,7 +118,8 @@ std::map<int, QString> cellsOf(int from, int to, const QString &text)
 
 PassCase bothNines()
 {
-    PassCase c{"BothNines"};
+    PassCase c;
+    c.name = "BothNines";
     c.rows = {{1, {4, 5}}, {10, {3}}, {18, {6, 6, 7}}};
     c.cells = {{1, "4"}, {10, "3"}, {18, "6"}};
     c.toPar = {{1, 0}, {10, -1}, {18, 1}};
@@ -131,7 +132,8 @@ PassCase bothNines()
 
 PassCase frontOnly()
 {
-    PassCase c{"FrontNineOnly"};
+    PassCase c;
+    c.name = "FrontNineOnly";
     c.rows = everyHole(1, 9, {5});
     c.rows[3] = {4, 2, 3}; // par 3: a birdie
     c.cells = cellsOf(1, 9, "5");
@@ -149,7 +151,8 @@ PassCase frontOnly()
 
 PassCase backOnly()
 {
-    PassCase c{"BackNineOnly"};
+    PassCase c;
+    c.name = "BackNineOnly";
     c.rows = everyHole(10, 18, {4, 4});
     c.cells = cellsOf(10, 18, "4");
     for (int h = 10; h <= 18; ++h)
@@ -164,7 +167,8 @@ PassCase backOnly()
 
 PassCase noRows()
 {
-    PassCase c{"NoRowsAtAll"};
+    PassCase c;
+    c.name = "NoRowsAtAll";
     c.out = 0;
     c.in = 0;
     c.total = 0;
@@ -175,7 +179,8 @@ PassCase noRows()
 PassCase zeroScores()
 {
     // Rows there are, but they add up to nothing: the card has nothing to show.
-    PassCase c{"ScoresOfZero"};
+    PassCase c;
+    c.name = "ScoresOfZero";
     c.rows = {{1, {0}}, {12, {0, 0}}};
     c.cells = {{1, "0"}, {12, "0"}};
     c.toPar = {{1, -4}, {12, -3}};
@@ -189,7 +194,8 @@ PassCase zeroScores()
 
 PassCase holeInOne()
 {
-    PassCase c{"HoleInOneOnAParFour"};
+    PassCase c;
+    c.name = "HoleInOneOnAParFour";
     c.rows = {{1, {1, 4}}, {2, {2}}, {3, {2}}, {4, {6}}};
     c.cells = {{1, "1"}, {2, "2"}, {3, "2"}, {4, "6"}};
     c.toPar = {{1, -3}, {2, -2}, {3, -1}, {4, 1}};
@@ -204,7 +210,8 @@ PassCase holeInOne()
 PassCase blankPar()
 {
     // No par on hole 5: the strict conversion fails there, after the cell and the label were written.
-    PassCase c{"BlankParStopsThePass"};
+    PassCase c;
+    c.name = "BlankParStopsThePass";
     c.rows = everyHole(1, 9, {4});
     c.rows[5] = {5, 6};
     c.parCaptions = {{5, ""}};
@@ -217,7 +224,8 @@ PassCase blankPar()
 
 PassCase firstScoreNull()
 {
-    PassCase c{"FirstScoreNullStopsThePass"};
+    PassCase c;
+    c.name = "FirstScoreNullStopsThePass";
     c.rows = {{1, {3}}, {2, {kNull, 4}}, {3, {3}}};
     c.cells = {{1, "3"}, {2, ""}};
     c.toPar = {{1, -1}};
@@ -228,7 +236,8 @@ PassCase firstScoreNull()
 
 PassCase textPar()
 {
-    PassCase c{"ParThatIsNoNumber"};
+    PassCase c;
+    c.name = "ParThatIsNoNumber";
     c.rows = {{10, {4}}};
     c.parCaptions = {{10, "x"}};
     c.cells = {{10, "4"}};
@@ -240,7 +249,8 @@ PassCase textPar()
 PassCase nineOverflow()
 {
     // 8 x 4000 = 32000 fits in 16 bits; the ninth 4000 does not.
-    PassCase c{"FrontSumOutOfRange"};
+    PassCase c;
+    c.name = "FrontSumOutOfRange";
     c.rows = everyHole(1, 9, {4000});
     c.cells = cellsOf(1, 9, "4000");
     for (int h = 1; h <= 8; ++h)
@@ -253,7 +263,8 @@ PassCase nineOverflow()
 PassCase totalOverflow()
 {
     // Each nine is 9 x 3000 = 27000; together 54000 leaves the range.
-    PassCase c{"TotalOutOfRange"};
+    PassCase c;
+    c.name = "TotalOutOfRange";
     c.rows = everyHole(1, 18, {3000});
     c.cells = cellsOf(1, 18, "3000");
     for (int h = 1; h <= 18; ++h)
@@ -268,7 +279,8 @@ PassCase totalOverflow()
 PassCase halfStrokes()
 {
     // 4.5 rounds to 4 (halves go to the even neighbour), in the sum and against par.
-    PassCase c{"HalfStrokeRoundsToEven"};
+    PassCase c;
+    c.name = "HalfStrokeRoundsToEven";
     c.rows = {{1, {4.5}}, {10, {5.5}}};
     c.cells = {{1, "4.5"}, {10, "5.5"}};
     c.toPar = {{1, 0}, {10, 2}};
@@ -304,8 +316,9 @@ TEST_P(UltimatePassRules, LeaveTheCardAsTheRulesSay)
         const UltimateHole &hole = pass.holes[h - 1];
         const auto cell = c.cells.find(h);
         EXPECT_EQ(hole.played, cell != c.cells.end()) << "hole " << h;
-        if (cell != c.cells.end())
+        if (cell != c.cells.end()) {
             EXPECT_EQ(hole.best, cell->second) << "hole " << h;
+        }
         const auto toPar = c.toPar.find(h);
         EXPECT_EQ(hole.toPar,
                   toPar == c.toPar.end() ? std::optional<int>() : std::optional<int>(toPar->second))
