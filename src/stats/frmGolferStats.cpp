@@ -219,7 +219,8 @@ QWidget *frmGolferStats::buildPage(int p)
     auto *container = new QWidget(scroll);
     container->setObjectName(QLatin1String(page.container));
     auto *grid = new QGridLayout(container);
-    grid->setColumnStretch(0, 1);
+    grid->setHorizontalSpacing(16);
+    grid->setColumnStretch(3, 1); // the figures stand beside their captions, the room is left at the right
     int row = 0;
     for (const Line &line : page.lines) {
         const char *array = line.second ? page.secondCaptions : page.captions;
