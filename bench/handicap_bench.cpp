@@ -1,5 +1,6 @@
 // The cost of one handicap run as the golfer's history grows: every score saved
 // or deleted ends in ComputeHandicap, so it must stay well inside a click.
+#include "BenchMain.h"
 #include "core/DateText.h"
 #include "handicap/Handicap.h"
 #include "shell/basLogGlobals.h"
@@ -119,12 +120,5 @@ BENCHMARK(BM_ComputeHandicap)->Arg(20)->Arg(200)->Arg(2000)->Unit(benchmark::kMi
 
 int main(int argc, char **argv)
 {
-    // The SQLite driver is a plugin, found through the application object.
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
+    return quillon::bench::RunBenchmarks(argc, argv);
 }

@@ -2,6 +2,7 @@
 // whole path the score form runs (the rows, the adjusted score and differential, the handicap run,
 // the held score log and handicap row read again), beside a plain SQLite insert of the same rows.
 // The save must stay well inside a click: under 15 ms.
+#include "BenchMain.h"
 #include "core/DateText.h"
 #include "handicap/Handicap.h"
 #include "score/ScoreData.h"
@@ -325,14 +326,6 @@ BENCHMARK(BM_PlainInsertBaseline)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 int main(int argc, char **argv)
 {
-    // The SQLite driver is a plugin, found through the application object.
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    gDatabase = std::make_unique<SaveDatabase>();
-    benchmark::RunSpecifiedBenchmarks();
-    gDatabase.reset();
-    benchmark::Shutdown();
-    return 0;
+    return quillon::bench::RunBenchmarks(
+        argc, argv, [] { gDatabase = std::make_unique<SaveDatabase>(); }, [] { gDatabase.reset(); });
 }

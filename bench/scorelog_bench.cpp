@@ -1,5 +1,6 @@
 // Opening the score log of a golfer with 5,000 rounds, and one sort by a heading, beside a plain
 // walk of the same rows: the view's own cost must stay a small multiple of reading the rows.
+#include "BenchMain.h"
 #include "core/DateText.h"
 #include "store/basDatabase.h"
 #include "ui/QueryTableModel.h"
@@ -107,8 +108,5 @@ BENCHMARK(BM_SortByCourseHeading)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char **argv)
 {
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return quillon::bench::RunBenchmarks(argc, argv);
 }

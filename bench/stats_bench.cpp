@@ -1,6 +1,7 @@
 // The statistics walk for golfers with 100, 1,000 and 5,000 18-hole rounds, every one with its
 // 18 hole rows, beside a plain SQLite scan of the same rows through the same driver.  Goals: the
 // walk under 100 ms at 1,000 rounds, and within 3x of the plain scan.
+#include "BenchMain.h"
 #include "core/DateText.h"
 #include "stats/GolferStatistics.h"
 #include "stats/StatisticsWalk.h"
@@ -162,14 +163,6 @@ BENCHMARK(BM_PlainScan)->Arg(100)->Arg(1000)->Arg(5000)->Unit(benchmark::kMillis
 
 int main(int argc, char **argv)
 {
-    // The SQLite driver is a plugin, found through the application object.
-    QCoreApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    gDatabase = std::make_unique<WalkDatabase>();
-    benchmark::RunSpecifiedBenchmarks();
-    gDatabase.reset();
-    benchmark::Shutdown();
-    return 0;
+    return quillon::bench::RunBenchmarks(
+        argc, argv, [] { gDatabase = std::make_unique<WalkDatabase>(); }, [] { gDatabase.reset(); });
 }
