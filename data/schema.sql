@@ -105,7 +105,9 @@ CREATE TABLE DBVersion (
 
 -- Look-ups that every view and the handicap run make by golfer or by round.
 CREATE INDEX ScoreLogGolfer ON ScoreLog (LastName, FirstName, Date);
-CREATE INDEX ScoreDetailsRound ON ScoreDetails (ScoreIndex);
+-- The round's holes are read through the index alone, their columns included, by the views and charts.
+CREATE INDEX ScoreDetailsRound ON ScoreDetails (ScoreIndex, LastName, FirstName, Date, CourseName, Tees, Hole,
+    Score, Putts, PAR, Fairway, GreenInRegulation);
 CREATE INDEX ScoringRecordGolfer ON ScoringRecord (LastName, FirstName, Date);
 CREATE INDEX CourseDetailsTees ON CourseDetails (CourseName, Tees, Hole);
 

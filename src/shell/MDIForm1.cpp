@@ -16,6 +16,7 @@
 #include "platform/Platform.h"
 #include "score/ScoreDelete.h"
 #include "score/frmScore.h"
+#include "graphs/frmGraphs.h"
 #include "stats/frmGolferStats.h"
 #include "ui/Guarded.h"
 #include "views/frmScoreLog.h"
@@ -220,6 +221,7 @@ MDIForm1::MDIForm1()
                           [] { return new frmCourseInfo; });
     m_views->registerView(QStringLiteral("frmGolferStats"), QStringLiteral("mnuViewGolferStatistics"),
                           [] { return new frmGolferStats; });
+    m_views->registerView(QStringLiteral("frmGraphs"), QStringLiteral("mnuViewGraphs"), [] { return new frmGraphs; });
     m_views->registerView(QStringLiteral("frmScoringRecord"), QStringLiteral("mnuViewScoringRecord"),
                           [] { return new frmScoringRecord; });
     m_views->registerView(QStringLiteral("frmUltimateScore"), QStringLiteral("mnuViewUltimateScorecard"),
@@ -327,6 +329,7 @@ void MDIForm1::wireCommands()
     });
     onItem("mnuViewCourseInfo", [this] { mnuViewCourseInfo_Click(); });
     onItem("mnuViewGolferStatistics", [this] { m_views->switchTo(QStringLiteral("frmGolferStats")); });
+    onItem("mnuViewGraphs", [this] { m_views->switchTo(QStringLiteral("frmGraphs")); });
     onItem("mnuViewScoringRecord", [this] { m_views->switchTo(QStringLiteral("frmScoringRecord")); });
     onItem("mnuViewUltimateScorecard", [this] {
         if (menuItem(QStringLiteral("mnuViewUltimateScorecard"))->isChecked())

@@ -45,7 +45,7 @@ TEST(HelpPagesTest, TheExpectedPagesAreThere)
 {
     const QStringList present = pages();
     for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "score.html",
-                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html", "stats.html"})
+                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html", "stats.html", "graphs.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -154,5 +154,12 @@ TEST(HelpPagesTest, StatisticsPageHoldsItsPlaces)
 {
     const QString html = read(kHelp.filePath(QStringLiteral("stats.html")));
     for (const char *place : {"stats", "pages", "terms"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+}
+
+TEST(HelpPagesTest, GraphsPageHoldsItsPlaces)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("graphs.html")));
+    for (const char *place : {"graphs", "trends", "pies"})
         EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
 }
