@@ -72,7 +72,8 @@ void DrawChart(QChartView &view, const ChartData &data)
         x->setTitleText(t.caption);
         x->setTitleFont(axisFont());
         x->setRange(1, qMax(1, t.rowCount));
-        x->setLabelsVisible(false); // every row label is empty
+        // Every row label is empty; the labels keep their room so that the caption is not cut.
+        x->setLabelsColor(Qt::transparent);
         x->setTickCount(2);
         auto *y = new QValueAxis(chart);
         y->setTitleText(t.valueTitle);
