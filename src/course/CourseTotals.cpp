@@ -52,6 +52,22 @@ QString RatingDecrease(const QString &text)
     return RatingText(CDbl(text) - 0.1);
 }
 
+QString RatingStrictIncrease(const QString &text)
+{
+    return RatingText(CDbl(text) + 0.1);
+}
+
+QString YardageIncrease(const QString &text)
+{
+    return DoubleText(Val(text) + 1);
+}
+
+QString YardageDecrease(const QString &text)
+{
+    const double value = Val(text);
+    return value > 0 ? DoubleText(value - 1) : text;
+}
+
 QString SlopeIncrease(const QString &text)
 {
     if (Val(text) < 155)

@@ -24,6 +24,12 @@ QString RatingDecrease(const QString &text);
 QString SlopeIncrease(const QString &text);
 QString SlopeDecrease(const QString &text);
 
+// The calculator's buttons: a rating steps by a tenth from its strict value (a blank box fails
+// both ways); a yardage steps by one from its lenient value, and goes no lower than 0.
+QString RatingStrictIncrease(const QString &text);
+QString YardageIncrease(const QString &text);
+QString YardageDecrease(const QString &text);
+
 // A rating as the course screens show it: one decimal, no digit before the point below 1.
 QString RatingText(double rating);
 

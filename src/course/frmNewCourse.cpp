@@ -3,6 +3,7 @@
 #include "CourseData.h"
 #include "CourseTotals.h"
 #include "CourseValidation.h"
+#include "frmRSCalculator.h"
 #include "core/Convert.h"
 #include "platform/Hourglass.h"
 #include "platform/Platform.h"
@@ -11,6 +12,7 @@
 #include "ui/FormInstance.h"
 #include "ui/Guarded.h"
 #include "ui/KeyRules.h"
+#include "ui/Spinners.h"
 #include "ui/NumericLineEdit.h"
 
 #include <QComboBox>
@@ -113,8 +115,7 @@ frmNewCourse::frmNewCourse(QWidget *parent) : EntryForm(parent)
     auto *buttons = new QHBoxLayout;
     m_cmdCalculate = new QPushButton(QStringLiteral("C&alculate Rating/Slope"), this);
     m_cmdCalculate->setObjectName(QStringLiteral("cmdCalculate"));
-    // The rating and slope calculator is not part of this build.
-    m_cmdCalculate->setEnabled(false);
+    connect(m_cmdCalculate, &QPushButton::clicked, this, [this] { frmRSCalculator::instance().ShowCalculator(this); });
     buttons->addWidget(m_cmdCalculate);
     addSaveAndCancel(buttons);
     layout->addLayout(buttons);
@@ -155,76 +156,19 @@ frmNewCourse *frmNewCourse::existing()
 QWidget *frmNewCourse::ratingCell(CardNine nine, bool slope)
 {
     const QString name = nineName(nine) + (slope ? QStringLiteral("Slope") : QStringLiteral("Rating"));
-    auto *cell = new QWidget(this);
-    auto *row = new QHBoxLayout(cell);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(1);
-    auto *box = new QLineEdit(cell);
+    auto *box = new QLineEdit(this);
     box->setObjectName(QStringLiteral("txt") + name);
     box->setMaxLength(slope ? 3 : 4);
     box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 16);
     box->setAlignment(Qt::AlignRight);
     ApplyKeyRule(box, slope ? KeyRule::NoLeadingZero : KeyRule::Decimal);
-    box->installEventFilter(this);
-    row->addWidget(box);
-    buildSpinners(box, name, slope, cell);
+    QWidget *cell = WithSpinners(box, QStringLiteral("cmd%1Inc").arg(name), QStringLiteral("cmd%1Dec").arg(name),
+                                 slope ? &SlopeIncrease : &RatingIncrease, slope ? &SlopeDecrease : &RatingDecrease,
+                                 [this] { markUnsaved(true); });
     m_ratingBoxes.insert(box->objectName(), box);
     connect(box, &QLineEdit::textChanged, this, [this] { UpdateSaveButton(); });
     m_tabOrder << box;
     return cell;
-}
-
-void frmNewCourse::buildSpinners(QLineEdit *box, const QString &name, bool slope, QWidget *cell)
-{
-    auto *column = new QVBoxLayout;
-    column->setSpacing(0);
-    const struct {
-        const char *suffix;
-        Qt::ArrowType arrow;
-        QString (*step)(const QString &);
-    } buttons[] = {
-        {"Inc", Qt::UpArrow, slope ? &SlopeIncrease : &RatingIncrease},
-        {"Dec", Qt::DownArrow, slope ? &SlopeDecrease : &RatingDecrease},
-    };
-    for (const auto &b : buttons) {
-        auto *button = new QToolButton(cell);
-        button->setObjectName(QStringLiteral("cmd%1%2").arg(name, QLatin1String(b.suffix)));
-        button->setArrowType(b.arrow);
-        button->setFixedSize(18, 11);
-        // Reached by the Up and Down keys in the box, not by Tab.
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setAutoRepeat(true);
-        const auto step = b.step;
-        // The buttons have no trap of their own: a blank or non-numeric box is a failure the
-        // user sees, and the box keeps its text.
-        connect(button, &QToolButton::clicked, this, [this, box, step] {
-            RunUntrapped([this, box, step] {
-                const QString next = step(box->text());
-                if (next != box->text()) {
-                    box->setText(next);
-                    markUnsaved(true);
-                }
-            });
-        });
-        column->addWidget(button);
-    }
-    static_cast<QHBoxLayout *>(cell->layout())->addLayout(column);
-}
-
-bool frmNewCourse::eventFilter(QObject *watched, QEvent *event)
-{
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Up || key == Qt::Key_Down) {
-            const QString suffix = key == Qt::Key_Up ? QStringLiteral("Inc") : QStringLiteral("Dec");
-            const QString name = watched->objectName().mid(3); // txtOverallRating -> OverallRating
-            if (auto *button = findChild<QToolButton *>(QStringLiteral("cmd") + name + suffix)) {
-                button->click();
-                return true;
-            }
-        }
-    }
-    return EntryForm::eventFilter(watched, event);
 }
 
 void frmNewCourse::NewCourse()
@@ -478,6 +422,13 @@ bool frmNewCourse::save(bool withDetails)
         platform().messageBox(error.message(), MsgIcon::Critical, appTitle());
     }
     return true;
+}
+
+void frmNewCourse::acceptRatingAndSlope(const QString &rating, const QString &slope)
+{
+    m_ratingBoxes.value(QStringLiteral("txtOverallRating"))->setText(rating);
+    m_ratingBoxes.value(QStringLiteral("txtOverallSlope"))->setText(slope);
+    markUnsaved(true);
 }
 
 void frmNewCourse::FormActivate()

@@ -36,15 +36,15 @@ public:
     CourseEntry entry() const;
     // Save as the Save button does: validate, ask, write, close.
     void cmdSave_Click();
+    // What the rating and slope calculator writes when its estimate is accepted.
+    void acceptRatingAndSlope(const QString &rating, const QString &slope);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     // The help page and place for the mode.
     QString helpAnchor() const override { return m_helpAnchor; }
 
 private:
     QWidget *ratingCell(CardNine nine, bool slope);
-    void buildSpinners(QLineEdit *box, const QString &name, bool slope, QWidget *cell);
     // False when the course has no tees and the form closed.
     bool courseChosen(const QString &course);
     void teesChosen(const QString &tees);

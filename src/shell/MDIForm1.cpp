@@ -5,7 +5,9 @@
 #include "ToolbarIcons.h"
 #include "course/frmCourseInfo.h"
 #include "course/frmDeleteCourse.h"
+#include "course/frmHdcpCalculator.h"
 #include "course/frmNewCourse.h"
+#include "course/frmRSCalculator.h"
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmNewGolfer.h"
 #include "handicap/Handicap.h"
@@ -322,6 +324,7 @@ void MDIForm1::wireCommands()
         });
     onItem("mnuDeleteGolfer", [] { frmDeleteGolfer::instance().DeleteGolfer(); });
     onItem("mnuNewCourse", [] { frmNewCourse::instance().NewCourse(); });
+    onItem("mnuToolsRSCalculator", [] { frmRSCalculator::instance().ShowCalculator(frmNewCourse::existing()); });
     onItem("mnuEditCourse", [this] {
         QString course, tees;
         courseFromView(course, tees);
@@ -344,6 +347,7 @@ void MDIForm1::wireCommands()
             m_views->switchTo(name);
     });
     onItem("mnuNewScore", [] { frmScore::instance().NewScore(); });
+    onItem("mnuToolsCourseHdcpCalculator", [] { frmHdcpCalculator::instance().ShowCalculator(); });
     connect(menuItem(QStringLiteral("mnuSLViewScoreDetails")), &QAction::triggered, this, [this] {
         if (auto *log = qobject_cast<frmScoreLog *>(m_views->loaded(QStringLiteral("frmScoreLog"))))
             RunGuarded([log] { log->ShowScoreDetails(); });

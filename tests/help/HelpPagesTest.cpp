@@ -45,7 +45,8 @@ TEST(HelpPagesTest, TheExpectedPagesAreThere)
 {
     const QStringList present = pages();
     for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "score.html",
-                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html", "stats.html", "graphs.html"})
+                             "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html", "stats.html", "graphs.html",
+                             "calculators.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -162,4 +163,15 @@ TEST(HelpPagesTest, GraphsPageHoldsItsPlaces)
     const QString html = read(kHelp.filePath(QStringLiteral("graphs.html")));
     for (const char *place : {"graphs", "trends", "pies"})
         EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+}
+
+TEST(HelpPagesTest, CalculatorsPageHoldsItsPlacesAndTheMenusLinkThere)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("calculators.html")));
+    for (const char *place : {"hdcpcalc", "rscalc"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+    const QStringList menuLinks = hrefs(read(kHelp.filePath(QStringLiteral("menus.html"))));
+    EXPECT_TRUE(menuLinks.contains(QStringLiteral("calculators.html#hdcpcalc")));
+    EXPECT_TRUE(menuLinks.contains(QStringLiteral("calculators.html#rscalc")));
+    EXPECT_TRUE(hrefs(read(kHelp.filePath(QStringLiteral("course.html")))).contains(QStringLiteral("calculators.html#rscalc")));
 }

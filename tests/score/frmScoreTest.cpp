@@ -123,13 +123,6 @@ public:
     frmScore *form = nullptr;
 };
 
-void expectMessage(const ShownMessage &m, const QString &text, MsgIcon icon, const QString &title)
-{
-    EXPECT_EQ(m.text, text);
-    EXPECT_EQ(m.icon, icon);
-    EXPECT_EQ(m.title, title);
-}
-
 } // namespace
 
 TEST_F(ScoreForm, NewModeWithoutAnyCourseSaysSoAndCloses)

@@ -1,7 +1,9 @@
 #include "FrameFixture.h"
 
 #include "course/frmDeleteCourse.h"
+#include "course/frmHdcpCalculator.h"
 #include "course/frmNewCourse.h"
+#include "course/frmRSCalculator.h"
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmGender.h"
 #include "golfer/frmNewGolfer.h"
@@ -28,6 +30,8 @@ void FrameFixture::TearDown()
     FormInstance<frmGender>::destroy();
     FormInstance<frmDeleteCourse>::destroy();
     FormInstance<frmNewCourse>::destroy();
+    FormInstance<frmHdcpCalculator>::destroy();
+    FormInstance<frmRSCalculator>::destroy();
 }
 
 void FrameFixture::chooseGolfer(const QString &typed, bool isNew)

@@ -63,6 +63,15 @@ void TestApp::setGolfer(const QString &last, const QString &first)
     basLogGlobals().gFirstName = first;
 }
 
+void expectMessage(const ShownMessage &m, const QString &text, MsgIcon icon, const QString &title,
+                   MsgButtons buttons)
+{
+    EXPECT_EQ(m.text, text);
+    EXPECT_EQ(m.icon, icon);
+    EXPECT_EQ(m.title, title);
+    EXPECT_EQ(m.buttons, buttons);
+}
+
 void expectMessages(ScriptedPlatform &p, const QStringList &texts)
 {
     QStringList shown;

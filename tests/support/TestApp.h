@@ -35,6 +35,10 @@ private:
     ScriptedPlatform *m_platform = nullptr;
 };
 
+// Expect one shown message to be this text, with this icon, title and buttons.
+void expectMessage(const ShownMessage &m, const QString &text, MsgIcon icon, const QString &title,
+                   MsgButtons buttons = MsgButtons::OK);
+
 // Expect exactly these message texts since the last take, in order.
 void expectMessages(ScriptedPlatform &p, const QStringList &texts);
 

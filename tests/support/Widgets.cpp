@@ -107,6 +107,24 @@ void ChooseItem(QComboBox *box, const QString &text)
     emit box->activated(index);
 }
 
+QStringList TabWalk(QWidget *start, int steps)
+{
+    QApplication::setActiveWindow(start->window());
+    start->setFocus();
+    QStringList visited;
+    for (int i = 0; i < steps; ++i) {
+        QWidget *focus = QApplication::focusWidget();
+        if (!focus)
+            break;
+        QString name = focus->objectName();
+        if (name.isEmpty() && focus->parentWidget())
+            name = focus->parentWidget()->objectName();
+        visited << name;
+        QTest::keyClick(focus, Qt::Key_Tab);
+    }
+    return visited;
+}
+
 void typeInto(const QObject *root, const QString &name, const QString &text)
 {
     QWidget *w = findControl<QWidget>(root, name);

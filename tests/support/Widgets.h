@@ -64,6 +64,10 @@ void PickByKeyboard(QComboBox *box, const QString &text);
 // Choose an item of a list as a click does: made current, then announced as chosen.
 void ChooseItem(QComboBox *box, const QString &text);
 
+// The names of the controls the Tab key visits from `start`, in order, `steps` presses at most;
+// the line edit of an editable list goes by the list's name.
+QStringList TabWalk(QWidget *start, int steps);
+
 // Type text into a named line edit or combo box as a user would, key by key.
 void typeInto(const QObject *root, const QString &name, const QString &text);
 
