@@ -7,7 +7,9 @@
 #include "core/NumberText.h"
 #include "core/QuillonError.h"
 
+#include <QHash>
 #include <functional>
+#include <optional>
 
 namespace quillon {
 
@@ -36,6 +38,23 @@ ChartEntry pie(const char *entry, int parts, const char *description)
 // with the 36th on all the order columns, as the original database returned them.
 constexpr int kTop = 36;
 
+// Texts of a NOCASE column compare as the database compares them: ASCII letters without case.
+bool equalsNoCase(const QString &x, const QString &y)
+{
+    if (x.size() != y.size())
+        return false;
+    for (int i = 0; i < x.size(); ++i) {
+        QChar p = x.at(i), q = y.at(i);
+        if (p.unicode() < 128)
+            p = p.toLower();
+        if (q.unicode() < 128)
+            q = q.toLower();
+        if (p != q)
+            return false;
+    }
+    return true;
+}
+
 // The order columns compare as the database compares them: texts of a NOCASE column fold ASCII
 // case, numbers compare by value, Null ties with Null.
 bool sameKey(const QVariant &a, const QVariant &b, bool noCase)
@@ -45,23 +64,8 @@ bool sameKey(const QVariant &a, const QVariant &b, bool noCase)
     const bool aText = a.typeId() == QMetaType::QString, bText = b.typeId() == QMetaType::QString;
     if (aText != bText)
         return false;
-    if (aText) {
-        const QString x = a.toString(), y = b.toString();
-        if (!noCase)
-            return x == y;
-        if (x.size() != y.size())
-            return false;
-        for (int i = 0; i < x.size(); ++i) {
-            QChar p = x.at(i), q = y.at(i);
-            if (p.unicode() < 128)
-                p = p.toLower();
-            if (q.unicode() < 128)
-                q = q.toLower();
-            if (p != q)
-                return false;
-        }
-        return true;
-    }
+    if (aText)
+        return noCase ? equalsNoCase(a.toString(), b.toString()) : a.toString() == b.toString();
     return a.toDouble() == b.toDouble();
 }
 
@@ -350,8 +354,7 @@ struct PieSpec {
     const char *holeValue;     // Holes: the value classed, per hole row
     QVariantList classValues;  // Holes: the value of each part but the last, which takes the rest
     int par;                   // Holes: only holes of this par; 0 for all
-    const QString *nineHoles;  // Nines: the Holes of a round that takes its own Score
-    const char *holeCondition; // Nines: the nine's holes
+    int nine;                  // Nines: 0 the front, 1 the back
     QStringList legends;
     std::function<int(const QVariant &)> classify; // the part an item falls in
 };
@@ -372,17 +375,17 @@ const QVector<PieSpec> &pieSpecs()
     const QStringList parHole = {"Birdies", "Pars", "Bogeys", "Others"};
     const QStringList nines = {"Scores 40 and above    ", "Scores under 40"};
     static const QVector<PieSpec> specs = {
-        {"Putting Breakdown", PieSource::Holes, "d.Putts", {0, 1, 2}, 0, nullptr, "",
+        {"Putting Breakdown", PieSource::Holes, "d.Putts", {0, 1, 2}, 0, 0,
          {"Chip-ins", "One Putts", "Two Putts", "Three or more Putts   "}, nullptr},
-        {"Front 9 Scoring Breakdown", PieSource::Nines, "", {}, 0, &kFront, " AND d.Hole <= 9", nines, byNine},
-        {"Back 9 Scoring Breakdown", PieSource::Nines, "", {}, 0, &kBack, " AND d.Hole > 9", nines, byNine},
-        {"18 Hole Scoring Breakdown by Round", PieSource::Rounds, "", {}, 0, nullptr, "",
+        {"Front 9 Scoring Breakdown", PieSource::Nines, "", {}, 0, 0, nines, byNine},
+        {"Back 9 Scoring Breakdown", PieSource::Nines, "", {}, 0, 1, nines, byNine},
+        {"18 Hole Scoring Breakdown by Round", PieSource::Rounds, "", {}, 0, 0,
          {"100 and over", "90 to 99", "80 to 89", "70 to 79", "Scores under 70   "}, byRound},
-        {"Scoring Breakdown by Hole", PieSource::Holes, "d.Score - d.PAR", {-2, -1, 0, 1, 2, 3}, 0, nullptr, "",
+        {"Scoring Breakdown by Hole", PieSource::Holes, "d.Score - d.PAR", {-2, -1, 0, 1, 2, 3}, 0, 0,
          {"Eagles", "Birdies", "Pars", "Bogeys", "Double Bogeys", "Triple Bogeys", "Others"}, nullptr},
-        {"Par 3 Scoring Breakdown", PieSource::Holes, "d.Score - d.PAR", {-1, 0, 1}, 3, nullptr, "", parHole, nullptr},
-        {"Par 4 Scoring Breakdown", PieSource::Holes, "d.Score - d.PAR", {-1, 0, 1}, 4, nullptr, "", parHole, nullptr},
-        {"Par 5 Scoring Breakdown", PieSource::Holes, "d.Score - d.PAR", {-1, 0, 1}, 5, nullptr, "", parHole, nullptr},
+        {"Par 3 Scoring Breakdown", PieSource::Holes, "d.Score - d.PAR", {-1, 0, 1}, 3, 0, parHole, nullptr},
+        {"Par 4 Scoring Breakdown", PieSource::Holes, "d.Score - d.PAR", {-1, 0, 1}, 4, 0, parHole, nullptr},
+        {"Par 5 Scoring Breakdown", PieSource::Holes, "d.Score - d.PAR", {-1, 0, 1}, 5, 0, parHole, nullptr},
     };
     return specs;
 }
@@ -404,8 +407,15 @@ struct HoleRow {
     int weight = 0; // holes with these values
 };
 struct GolferHoles {
-    qint64 rounds = 0; // rows of the rounds with details, a round without hole rows counting once
+    qint64 rounds = 0; // rounds with details; none means no data
     QVector<HoleRow> rows;
+};
+
+// What the pies of a golfer are drawn from: the holes, and for each nine (front, back) the total
+// each counted round is classed by, oldest round first.
+struct GolferPies {
+    GolferHoles holes;
+    QVector<QVariant> nines[2];
 };
 
 GolferHoles LoadGolferHoles(Connection &c, const QString &last, const QString &first)
@@ -417,15 +427,156 @@ GolferHoles LoadGolferHoles(Connection &c, const QString &last, const QString &f
                                             "GROUP BY 1, 2, 3"),
                          {first, last, first, last});
     while (st.next()) {
-        h.rounds += st.value(4).toLongLong();
+        ++h.rounds;
         if (st.value(3).toInt() > 0)
             h.rows.append({st.value(0), st.value(1), st.value(2), st.value(3).toInt()});
     }
     return h;
 }
 
+const QString &nineHoles(int nine)
+{
+    return nine == 0 ? kFront : kBack;
+}
+
+// Rounds walk oldest first; a round of 18 holes without detail rows keeps the nine total of the
+// round before it (0 at the first), as the chart always did.  The nine is summed by a subquery for
+// the 18-hole rounds only; no sum means no hole rows.
+QVector<QVariant> LoadNineTotals(Connection &c, int nine, const QString &last, const QString &first)
+{
+    const QString sql =
+        QStringLiteral("SELECT l.Holes, l.Score, CASE WHEN l.Holes = ? THEN NULL ELSE "
+                       "(SELECT SUM(d.Score) FROM ScoreDetails d WHERE d.ScoreIndex = l.ScoreIndex "
+                       "AND d.FirstName = ? AND d.LastName = ? AND d.Date = l.Date "
+                       "AND d.CourseName = l.CourseName AND d.Tees = l.Tees") +
+        (nine == 0 ? QStringLiteral(" AND d.Hole <= 9") : QStringLiteral(" AND d.Hole > 9")) +
+        QStringLiteral(") END FROM ScoreLog l WHERE l.FirstName = ? AND l.LastName = ? AND (l.Holes = ? OR "
+                       "(l.Holes = ? AND l.Details <> 0)) ORDER BY l.Date, l.ScoreIndex");
+    Statement st = c.run(sql, {nineHoles(nine), first, last, first, last, nineHoles(nine), k18});
+    QVector<QVariant> totals;
+    QVariant total = 0;
+    while (st.next()) {
+        if (st.value(0).toString() == nineHoles(nine))
+            total = st.value(1);
+        else if (!st.value(2).isNull())
+            total = st.value(2);
+        totals << total;
+    }
+    return totals;
+}
+
+GolferPies LoadPiesByStatements(Connection &c, const QString &last, const QString &first)
+{
+    GolferPies p;
+    p.holes = LoadGolferHoles(c, last, first);
+    for (int nine = 0; nine < 2; ++nine)
+        p.nines[nine] = LoadNineTotals(c, nine, last, first);
+    return p;
+}
+
+// The same in two walks, one over the golfer's rounds and one over their holes, with each hole's
+// four values packed in one whole number beside its round's index (score, par, putts, hole: two
+// decimal digits each).  A golfer of thousands of rounds has some hundred thousand holes, and
+// one number a hole is what keeps reading them quick.  A value that does not fit (Null, a
+// fraction, text, a number past 99) makes the number Null or fractional, and then the pies are
+// read by their statements instead.
+constexpr qint64 kHoleCodeSpan = 100000000;
+
+std::optional<GolferPies> LoadPiesQuickly(Connection &c, const QString &last, const QString &first)
+{
+    struct Round {
+        qint64 index;
+        QString holes;
+        QVariant score;
+        bool details;
+        bool holesSeen[2] = {false, false};
+        qint64 holeTotals[2] = {0, 0};
+    };
+    QVector<Round> rounds;
+    {
+        Statement st = c.run(QStringLiteral("SELECT ScoreIndex, Holes, Score, Details FROM ScoreLog WHERE "
+                                            "FirstName = ? AND LastName = ? ORDER BY Date, ScoreIndex"),
+                             {first, last});
+        while (st.next()) {
+            const QVariant details = st.value(3);
+            // "Details <> 0": Null is not, text always differs from a number.
+            const bool hasDetails = !details.isNull() &&
+                                    (details.typeId() == QMetaType::QString || details.toDouble() != 0);
+            rounds.append({st.value(0).toLongLong(), st.value(1).toString(), st.value(2), hasDetails});
+        }
+    }
+
+    GolferPies p;
+    QHash<qint64, int> byValues; // (score - par, putts, par) packed, and how many holes have them
+    {
+        Statement st = c.run(
+            QStringLiteral("SELECT l.ScoreIndex * ? + CASE WHEN d.Score BETWEEN 0 AND 99 AND d.PAR BETWEEN 0 AND 99 "
+                           "AND d.Putts BETWEEN 0 AND 99 AND d.Hole BETWEEN 0 AND 99 THEN "
+                           "((d.Score * 100 + d.PAR) * 100 + d.Putts) * 100 + d.Hole END "
+                           "FROM ScoreLog l JOIN ScoreDetails d ON d.ScoreIndex = l.ScoreIndex "
+                           "AND d.FirstName = ? AND d.LastName = ? AND d.Date = l.Date "
+                           "AND d.CourseName = l.CourseName AND d.Tees = l.Tees "
+                           "WHERE l.FirstName = ? AND l.LastName = ? AND l.Details <> 0 ORDER BY l.Date, l.ScoreIndex"),
+            {kHoleCodeSpan, first, last, first, last});
+        int r = 0;
+        while (st.next()) {
+            const QVariant v = st.value(0);
+            if (v.typeId() != QMetaType::LongLong)
+                return std::nullopt;
+            const qint64 packed = v.toLongLong();
+            const qint64 index = packed / kHoleCodeSpan;
+            const int code = int(packed % kHoleCodeSpan);
+            // The holes come in the rounds' order.
+            while (r < rounds.size() && rounds.at(r).index != index)
+                ++r;
+            if (r == rounds.size())
+                return std::nullopt;
+            const int hole = code % 100, putts = code / 100 % 100, par = code / 10000 % 100,
+                      score = code / 1000000;
+            const int nine = hole <= 9 ? 0 : 1;
+            rounds[r].holesSeen[nine] = true;
+            rounds[r].holeTotals[nine] += score;
+            ++byValues[(qint64(score - par + 200) * 1000 + putts) * 1000 + par];
+        }
+    }
+
+    for (const Round &round : rounds)
+        if (round.details)
+            ++p.holes.rounds;
+    for (auto it = byValues.cbegin(); it != byValues.cend(); ++it) {
+        const qint64 key = it.key();
+        p.holes.rows.append(
+            {QVariant(key / 1000000 - 200), QVariant(key / 1000 % 1000), QVariant(key % 1000), it.value()});
+    }
+
+    // The rounds each nine is classed over, as the statement chooses them: that nine played alone,
+    // or 18 holes with details.  A nine of other case in its Holes text counts, and keeps the total.
+    for (int nine = 0; nine < 2; ++nine) {
+        QVariant total = 0;
+        for (const Round &round : rounds) {
+            const bool isNine = equalsNoCase(round.holes, nineHoles(nine));
+            if (!isNine && !(equalsNoCase(round.holes, k18) && round.details))
+                continue;
+            if (round.holes == nineHoles(nine))
+                total = round.score;
+            else if (!isNine && round.holesSeen[nine])
+                total = round.holeTotals[nine];
+            p.nines[nine] << total;
+        }
+    }
+    return p;
+}
+
+GolferPies LoadPies(Connection &c, const QString &last, const QString &first, ChartReading reading)
+{
+    if (reading == ChartReading::Quick)
+        if (std::optional<GolferPies> quick = LoadPiesQuickly(c, last, first))
+            return *quick;
+    return LoadPiesByStatements(c, last, first);
+}
+
 void buildPie(Connection &c, const PieSpec &s, const QString &last, const QString &first, ChartData &out,
-              const GolferHoles *holes = nullptr)
+              const GolferPies &pies)
 {
     const int n = out.entry.parts;
     QVector<int> counts(n, 0);
@@ -434,10 +585,8 @@ void buildPie(Connection &c, const PieSpec &s, const QString &last, const QStrin
 
     switch (s.source) {
     case PieSource::Holes: {
-        const GolferHoles own = holes ? GolferHoles() : LoadGolferHoles(c, last, first);
-        const GolferHoles &rows = holes ? *holes : own;
-        anyRound = rows.rounds > 0;
-        for (const HoleRow &h : rows.rows) {
+        anyRound = pies.holes.rounds > 0;
+        for (const HoleRow &h : pies.holes.rows) {
             if (s.par && (h.par.isNull() || h.par.toDouble() != s.par))
                 continue;
             total += h.weight;
@@ -454,25 +603,8 @@ void buildPie(Connection &c, const PieSpec &s, const QString &last, const QStrin
         break;
     }
     case PieSource::Nines: {
-        // Rounds walk oldest first; a round of 18 holes without detail rows keeps the nine total of
-        // the round before it (0 at the first), as the chart always did.  The nine is summed by a
-        // subquery for the 18-hole rounds only; no sum means no hole rows.
-        const QString sql =
-            QStringLiteral("SELECT l.Holes, l.Score, CASE WHEN l.Holes = ? THEN NULL ELSE "
-                           "(SELECT SUM(d.Score) FROM ScoreDetails d WHERE d.ScoreIndex = l.ScoreIndex "
-                           "AND d.FirstName = ? AND d.LastName = ? AND d.Date = l.Date "
-                           "AND d.CourseName = l.CourseName AND d.Tees = l.Tees") +
-            QLatin1String(s.holeCondition) +
-            QStringLiteral(") END FROM ScoreLog l WHERE l.FirstName = ? AND l.LastName = ? AND (l.Holes = ? OR "
-                           "(l.Holes = ? AND l.Details <> 0)) ORDER BY l.Date, l.ScoreIndex");
-        Statement st = c.run(sql, {*s.nineHoles, first, last, first, last, *s.nineHoles, k18});
-        QVariant nine = 0;
-        while (st.next()) {
+        for (const QVariant &nine : pies.nines[s.nine]) {
             anyRound = true;
-            if (st.value(0).toString() == *s.nineHoles)
-                nine = st.value(1);
-            else if (!st.value(2).isNull())
-                nine = st.value(2);
             ++counts[s.classify(nine)];
             ++total;
         }
@@ -590,7 +722,7 @@ TrendScale SetTrendAxes(qint16 minValue, qint16 maxValue)
 namespace {
 
 ChartData buildOne(Connection &c, const QString &entry, const QString &last, const QString &first,
-                   const GolferHoles *holes)
+                   const std::function<const GolferPies &()> &pies)
 {
     ChartData out;
     for (const ChartEntry &e : GraphCatalogue())
@@ -605,25 +737,36 @@ ChartData buildOne(Connection &c, const QString &entry, const QString &last, con
     } else {
         for (const PieSpec &s : pieSpecs())
             if (entry == QLatin1String(s.entry))
-                buildPie(c, s, last, first, out, holes);
+                buildPie(c, s, last, first, out,
+                         s.source == PieSource::Rounds ? GolferPies() : pies());
     }
     return out;
 }
 
 } // namespace
 
-ChartData BuildChart(Connection &c, const QString &entry, const QString &last, const QString &first)
+ChartData BuildChart(Connection &c, const QString &entry, const QString &last, const QString &first,
+                     ChartReading reading)
 {
-    return buildOne(c, entry, last, first, nullptr);
+    GolferPies pies;
+    return buildOne(c, entry, last, first, [&]() -> const GolferPies & {
+        pies = LoadPies(c, last, first, reading);
+        return pies;
+    });
 }
 
-QVector<ChartData> BuildAllCharts(Connection &c, const QString &last, const QString &first)
+QVector<ChartData> BuildAllCharts(Connection &c, const QString &last, const QString &first, ChartReading reading)
 {
-    const GolferHoles holes = LoadGolferHoles(c, last, first);
+    std::optional<GolferPies> pies;
+    const auto loaded = [&]() -> const GolferPies & {
+        if (!pies)
+            pies = LoadPies(c, last, first, reading);
+        return *pies;
+    };
     QVector<ChartData> all;
     for (const ChartEntry &e : GraphCatalogue()) {
         try {
-            all.append(buildOne(c, e.entry, last, first, &holes));
+            all.append(buildOne(c, e.entry, last, first, loaded));
         } catch (const QuillonError &error) {
             ChartData failed;
             failed.entry = e;

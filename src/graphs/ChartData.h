@@ -65,12 +65,19 @@ struct ChartData {
     int failure = 0; // BuildAllCharts: the error number that stopped this chart; 0 for none
 };
 
+// How the pies read the golfer's holes: Quick packs each hole into one number and falls back to
+// the statements when a value does not fit; ByStatements always runs the statements.  Both give
+// the same charts.
+enum class ChartReading { Quick, ByStatements };
+
 // Build the chart named by a list entry for a golfer from the database.  Failures of the chart
 // (a division by zero in a fairways chart, a value that cannot be read) throw QuillonError.
-ChartData BuildChart(Connection &c, const QString &entry, const QString &last, const QString &first);
+ChartData BuildChart(Connection &c, const QString &entry, const QString &last, const QString &first,
+                     ChartReading reading = ChartReading::Quick);
 
 // The data of all the charts, in the list's order, for a report of them all: the holes of the pies
 // are read once.  A chart that fails carries its error number and the others go on.
-QVector<ChartData> BuildAllCharts(Connection &c, const QString &last, const QString &first);
+QVector<ChartData> BuildAllCharts(Connection &c, const QString &last, const QString &first,
+                                  ChartReading reading = ChartReading::Quick);
 
 } // namespace quillon

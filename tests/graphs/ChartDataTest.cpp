@@ -663,3 +663,79 @@ TEST_F(ChartDataTest, BreakdownByHoleClassesEveryHole)
 }
 
 } // namespace
+
+namespace {
+
+// Everything a pie shows, for comparing two readings of the same data.
+QStringList pieFigures(const ChartData &c)
+{
+    QStringList out{c.entry.entry, c.empty ? "empty" : "data", QString::number(c.failure),
+                    c.pie.manySmall ? "many small" : "few small"};
+    for (const PiePart &p : c.pie.parts)
+        out << p.legend + '|' + p.data + '|' + (p.labelOutside ? "out" : "in");
+    return out;
+}
+
+} // namespace
+
+TEST_F(ChartDataTest, QuickAndStatementReadingsGiveTheSamePiesOverAVariedSeason)
+{
+    // Nines alone of both kinds, full rounds with and without details, a full round whose details
+    // lack a nine, a round flagged with details but without hole rows, a nine in other case, and
+    // holes from eagles to sevens with every putt count.
+    QDate day(2025, 3, 1);
+    const auto next = [&day] { return day = day.addDays(3); };
+    round(next(), QStringLiteral("9-holes (front)"), 41);
+    round(next(), QStringLiteral("9-holes (back)"), 38);
+    round(next(), QStringLiteral("18-holes"), 84);
+    detailRound(next(), {});
+    round(next(), QStringLiteral("9-HOLES (FRONT)"), 36);
+    for (int r = 0; r < 40; ++r) {
+        QVector<Hole> holes;
+        const int last = r % 7 == 0 ? 9 : 18;
+        for (int h = 1; h <= last; ++h)
+            holes.push_back({h, kPars.at(h - 1) + (r * 7 + h * 3) % 6 - 2, (r + h) % 5});
+        detailRound(next(), holes, r % 11 == 0 ? QStringLiteral("9-holes (front)") : QStringLiteral("18-holes"),
+                    70 + r);
+        if (r % 9 == 0)
+            detailRound(next(), parHoles(10, 18, 1), QStringLiteral("9-holes (back)"), 36);
+    }
+    const QVector<ChartData> quick = BuildAllCharts(app.db(), kLast, kFirst, ChartReading::Quick);
+    const QVector<ChartData> statements = BuildAllCharts(app.db(), kLast, kFirst, ChartReading::ByStatements);
+    ASSERT_EQ(quick.size(), 17);
+    int pies = 0;
+    for (int i = 0; i < quick.size(); ++i) {
+        if (quick.at(i).entry.kind != ChartKind::Pie)
+            continue;
+        ++pies;
+        EXPECT_FALSE(quick.at(i).empty) << quick.at(i).entry.entry.toStdString();
+        EXPECT_EQ(pieFigures(quick.at(i)), pieFigures(statements.at(i)));
+    }
+    EXPECT_EQ(pies, 8);
+}
+
+TEST_F(ChartDataTest, HoleValuesThatDoNotPackAreReadByTheStatementsWithTheSameResult)
+{
+    detailRound(QDate(2025, 4, 1), parHoles(1, 18));
+    const qint64 odd = detailRound(QDate(2025, 4, 8), parHoles(1, 18, 1));
+    // A hole without putts, a fractional score and a score past two digits.
+    Exec(app.db(), QStringLiteral("UPDATE ScoreDetails SET Putts = NULL WHERE ScoreIndex = ? AND Hole = 1"), {odd});
+    Exec(app.db(), QStringLiteral("UPDATE ScoreDetails SET Score = 4.5 WHERE ScoreIndex = ? AND Hole = 2"), {odd});
+    Exec(app.db(), QStringLiteral("UPDATE ScoreDetails SET Score = 104 WHERE ScoreIndex = ? AND Hole = 10"), {odd});
+
+    const ChartData putting = chart(QStringLiteral("Putting Breakdown"));
+    // 36 holes: 17 one-putts, 18 two-putts, and the hole without putts among the last part.
+    // The last part is what single precision leaves of 100.
+    EXPECT_EQ(data(putting), (QStringList{"0", "47.2", "50.0", "2.799999"}));
+    const ChartData byHole = chart(QStringLiteral("Scoring Breakdown by Hole"));
+    // 33 pars; 4.5 and 104 less par match no class and go with the others.
+    EXPECT_EQ(data(byHole), (QStringList{"0", "0", "94.4", "0", "0", "0", "5.6"}));
+    const ChartData back = chart(QStringLiteral("Back 9 Scoring Breakdown"));
+    // The back nines: 36 in the first round, 136 in the second.
+    EXPECT_EQ(data(back), (QStringList{"50.0", "50"}));
+    for (const QString &entry : {QStringLiteral("Putting Breakdown"), QStringLiteral("Scoring Breakdown by Hole"),
+                                 QStringLiteral("Front 9 Scoring Breakdown"), QStringLiteral("Back 9 Scoring Breakdown"),
+                                 QStringLiteral("Par 4 Scoring Breakdown")})
+        EXPECT_EQ(pieFigures(chart(entry)),
+                  pieFigures(BuildChart(app.db(), entry, kLast, kFirst, ChartReading::ByStatements)));
+}
