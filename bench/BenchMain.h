@@ -8,5 +8,8 @@ namespace quillon::bench {
 // is found through; `prepare` builds what they share before they run, `finish` releases it.
 int RunBenchmarks(int argc, char **argv, const std::function<void()> &prepare = {},
                   const std::function<void()> &finish = {});
+// The same with a GUI application (offscreen when no platform is named), for fonts and pages.
+int RunGuiBenchmarks(int argc, char **argv, const std::function<void()> &prepare = {},
+                     const std::function<void()> &finish = {});
 
 } // namespace quillon::bench

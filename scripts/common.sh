@@ -8,7 +8,7 @@ QUILLON_PACKAGES=(
   build-essential cmake ninja-build pkg-config
   libgtest-dev libbenchmark-dev
   qt6-base-dev qt6-charts-dev libqt6opengl6-dev libqt6sql6-sqlite
-  fonts-dejavu-core
+  fonts-dejavu-core poppler-utils
 )
 
 # Install whatever Debian packages are missing (root, or through sudo).

@@ -168,15 +168,8 @@ bool frmCourseInfo::selectedCourse(QString &course, QString &tees) const
 void frmCourseInfo::courseChanged()
 {
     const QString course = m_dbcboCourses->currentText();
-    const QStringList tees = TeesOf(db(), course);
-    m_cboTees->clear();
-    if (tees.isEmpty()) {
-        platform().messageBox(QStringLiteral("Course data is not available."), MsgIcon::Critical, windowTitle());
-    } else {
-        m_cboTees->addItems(tees);
-        m_cboTees->setCurrentIndex(0);
+    if (OfferTees(*m_cboTees, TeesOf(db(), course), windowTitle()))
         teesChosen();
-    }
     // The way back holds only for the course it was made for.
     if (course.compare(m_returnCourse, Qt::CaseInsensitive) != 0)
         clearReturnPanel();

@@ -1,13 +1,18 @@
 #include "DesktopPlatform.h"
 
+#include "core/QuillonError.h"
+
 #include "PrinterSettings.h"
 #include "platform/FileFilter.h"
 
 #include <QApplication>
 #include <QCursor>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProgressDialog>
@@ -74,6 +79,10 @@ QString DesktopPlatform::showOpenFileDialog(const QString &title, const QString 
 
 QString DesktopPlatform::defaultPrinterName()
 {
+    // A PDF file chosen in printer set-up stands in for a printer, so that a machine without one
+    // can still print.
+    if (m_setupPrinter && readPrinterSettings(*m_setupPrinter).printsToFile())
+        return QStringLiteral("PDF file");
     return QPrinterInfo::defaultPrinter().printerName();
 }
 
@@ -112,6 +121,30 @@ std::unique_ptr<QPagedPaintDevice> DesktopPlatform::openPdfPrinter(const QString
     printer->setOutputFileName(path);
     printer->setDocName(documentName);
     return printer;
+}
+
+bool DesktopPlatform::showPrintPreview(const PrintJob &job)
+{
+    std::unique_ptr<QPagedPaintDevice> device = openPrinter(job.documentName);
+    if (!device)
+        throw QuillonError(482, QStringLiteral("Printer error"));
+    auto *printer = static_cast<QPrinter *>(device.get());
+    if (readPrinterSettings(*printer).printsToFile()) {
+        // Each printout goes to a file of its own, beside the one set up and named after the
+        // printout; the print dialog of the preview lets the user name it otherwise.
+        printer->setOutputFileName(
+            QFileInfo(printer->outputFileName()).dir().filePath(job.documentName + QStringLiteral(".pdf")));
+    }
+    if (job.orientation != PageOrientation::AsSetUp)
+        printer->setPageOrientation(job.orientation == PageOrientation::Landscape ? QPageLayout::Landscape
+                                                                                  : QPageLayout::Portrait);
+    QPrintPreviewDialog preview(printer, dialogParent());
+    preview.setWindowTitle(job.documentName);
+    if (dialogParent())
+        preview.resize(dialogParent()->size() * 0.9);
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                     [&job](QPrinter *p) { job.paint(*p); });
+    return preview.exec() == QDialog::Accepted;
 }
 
 QDate DesktopPlatform::today()

@@ -40,6 +40,7 @@ protected:
                                const QString &defaultName) override;
     QString showOpenFileDialog(const QString &title, const QString &filter) override;
     bool showPrintSetup() override;
+    bool showPrintPreview(const PrintJob &job) override;
     void showBusyPointer(bool busy) override;
 
 private:

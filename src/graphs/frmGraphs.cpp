@@ -1,5 +1,7 @@
 #include "frmGraphs.h"
 
+#include "print/ReportPainter.h"
+
 #include "platform/Hourglass.h"
 #include "shell/basLogGlobals.h"
 #include "ui/Guarded.h"
@@ -116,12 +118,20 @@ frmPrintGraph::frmPrintGraph(QWidget *parent) : QWidget(parent)
     setObjectName(QStringLiteral("frmPrintGraph"));
     setWindowTitle(QStringLiteral("Graph"));
     auto *layout = new QVBoxLayout(this);
-    m_lblDesc = new QLabel(this);
+    m_lblDesc = new QLabel(QStringLiteral("Description:"), this);
     m_lblDesc->setObjectName(QStringLiteral("lblDesc"));
     m_crtStats = newChartView(this);
     layout->addWidget(m_crtStats, 1);
     layout->addWidget(m_lblDesc);
+    auto *footer = new QLabel(FooterNotice(), this);
+    footer->setObjectName(QStringLiteral("lblFooterNotice"));
+    layout->addWidget(footer);
     resize(960, 640);
+    // Never on the screen, yet shown: a chart lays out its legend and axes only while shown,
+    // and the page must be ready whenever it is printed.  It keeps no program alive.
+    setAttribute(Qt::WA_DontShowOnScreen);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    show();
 }
 
 frmGraphs::frmGraphs(QWidget *parent) : ViewForm(parent)

@@ -67,6 +67,12 @@ bool Platform::printSetup()
     return showPrintSetup();
 }
 
+bool Platform::print(const PrintJob &job)
+{
+    const QuestionUp up(*this);
+    return showPrintPreview(job);
+}
+
 void Platform::showBusyPointer(bool) {}
 
 bool Platform::callHelpHandler(const QString &anchor) const

@@ -13,6 +13,16 @@ namespace quillon {
 enum class MsgIcon { None, Critical, Exclamation, Question, Information };
 enum class MsgButtons { OK, OKCancel, YesNo };
 enum class MsgAnswer { OK, Cancel, Yes, No };
+// AsSetUp: the orientation chosen in printer set-up, or the printer's own default.
+enum class PageOrientation { AsSetUp, Portrait, Landscape };
+
+// One document to print: its name, the orientation of its pages, and how the pages are painted
+// on a device.  The painting may run more than once (for the preview, then for the printer).
+struct PrintJob {
+    QString documentName;
+    PageOrientation orientation = PageOrientation::AsSetUp;
+    std::function<void(QPagedPaintDevice &device)> paint;
+};
 
 // Everything the program asks of the desktop goes through here, so that tests
 // can script the answers and read what was shown.
@@ -40,6 +50,12 @@ public:
 
     // The printer set-up dialog; false when cancelled.
     bool printSetup();
+
+    // Shows the document in a preview, from which the user sends it to the printer chosen in
+    // printer set-up (or to a PDF file the user names, when that is what was chosen).  False
+    // when the user closed the preview without printing; throws QuillonError when no printer
+    // can be opened.
+    bool print(const PrintJob &job);
 
     // The system's default printer's device name; empty when the system has none.
     virtual QString defaultPrinterName() = 0;
@@ -79,6 +95,7 @@ protected:
                                        const QString &defaultName) = 0;
     virtual QString showOpenFileDialog(const QString &title, const QString &filter) = 0;
     virtual bool showPrintSetup() = 0;
+    virtual bool showPrintPreview(const PrintJob &job) = 0;
 
     // Called when the pointer must change between the hourglass and the normal pointer.
     virtual void showBusyPointer(bool busy);

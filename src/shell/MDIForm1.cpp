@@ -1,8 +1,10 @@
 #include "MDIForm1.h"
 
+#include "DatabaseCommands.h"
 #include "MenuRules.h"
 #include "Program.h"
 #include "ToolbarIcons.h"
+#include "core/QuillonError.h"
 #include "course/frmCourseInfo.h"
 #include "course/frmDeleteCourse.h"
 #include "course/frmHdcpCalculator.h"
@@ -16,6 +18,11 @@
 #include "help/frmHelp.h"
 #include "platform/Hourglass.h"
 #include "platform/Platform.h"
+#include "print/FormPrintout.h"
+#include "print/StatisticsPrintout.h"
+#include "print/frmPrintScoreDetails.h"
+#include "print/frmPrintScorecard.h"
+#include "print/LogPrintouts.h"
 #include "score/ScoreDelete.h"
 #include "score/frmScore.h"
 #include "graphs/frmGraphs.h"
@@ -310,6 +317,9 @@ void MDIForm1::wireCommands()
     onItem("mnuCourseExit", [this] { close(); });
     onItem("mnuNewGolfer", [this] { mnuNewGolfer_Click(); });
     onItem("mnuFilePrintSetup", [] { platform().printSetup(); });
+    for (const char *print : {"mnuPrintScorecard", "mnuPrintScoreLog", "mnuPrintScoreDetails", "mnuPrintScoringRecord",
+                              "mnuPrintStatistics", "mnuPrintGraph", "mnuPrintUltimateScorecard"})
+        onItem(print, [this, print] { PrintCommand(QLatin1String(print)); });
     onItem("mnuViewScoreLog", [this] { mnuViewScoreLog_Click(); });
     const struct {
         const char *item;
@@ -362,6 +372,8 @@ void MDIForm1::wireCommands()
         if (key == QLatin1String("ScoreDetails") && panel(key)->text() == QLatin1String("Score Details"))
             RunGuarded([this] { backToScoreDetails(); });
     });
+    onItem("mnuDatabaseBackup", [] { mnuDatabaseBackup_Click(); });
+    onItem("mnuDatabaseRestore", [this] { mnuDatabaseRestore_Click(*this); });
     onItem("mnuHelpContents", [] { frmHelp::instance().ShowHelp(QString()); });
     onItem("mnuHelpAbout", [] { frmAbout::instance().ShowAbout(); });
     // The popup's items run the command of the menu item they stand for.
@@ -655,7 +667,50 @@ void MDIForm1::PrintCommand(const QString &item)
             MsgIcon::Critical, appTitle());
         return;
     }
-    // The printouts come with their own screens; until then the items stand disabled.
+    LogGlobals &g = basLogGlobals();
+    const ReportHead head{g.gFirstName + QLatin1Char(' ') + g.gLastName, panel(QStringLiteral("Handicap"))->text(),
+                          g.gCommandString == QLatin1String("-h")};
+    if (logOrRecord) {
+        Hourglass hourglass;
+        try {
+            if (item == QLatin1String("mnuPrintScoreLog")) {
+                if (g.gScoreLog)
+                    platform().print(ScoreLogPrintout(g.gScoreLog->rows(), head));
+            } else {
+                platform().print(ScoringRecordPrintout(db(), g.gLastName, g.gFirstName, head));
+            }
+        } catch (const QuillonError &) {
+            platform().messageBox(QStringLiteral("Unable to obtain printer information from the system.  Make sure "
+                                                 "the printer is set up correctly."),
+                                  MsgIcon::Critical, appTitle());
+        }
+        return;
+    }
+    if (item == QLatin1String("mnuPrintScorecard")) {
+        QString course, tees;
+        courseFromView(course, tees);
+        frmPrintScorecard::instance().PrintScorecard(course, tees);
+    } else if (item == QLatin1String("mnuPrintScoreDetails")) {
+        // The round selected in the log, also when its details stand in front.
+        auto *log = qobject_cast<frmScoreLog *>(m_views->loaded(QStringLiteral("frmScoreLog")));
+        if (log && log->selectedRow() >= 0)
+            frmPrintScoreDetails::instance().PrintDetails(
+                log->selectedValue(QStringLiteral("CourseName")).toString(),
+                log->selectedValue(QStringLiteral("Tees")).toString(), log->selectedValue(QStringLiteral("Date")).toString(),
+                qint32(log->selectedValue(QStringLiteral("ScoreIndex")).toLongLong()));
+    } else if (item == QLatin1String("mnuPrintStatistics")) {
+        if (auto *stats = qobject_cast<frmGolferStats *>(m_views->loaded(QStringLiteral("frmGolferStats"))))
+            PrintStats(*stats);
+    } else if (item == QLatin1String("mnuPrintGraph")) {
+        if (auto *graphs = qobject_cast<frmGraphs *>(m_views->loaded(QStringLiteral("frmGraphs"))))
+            platform().print(FormPrintout(QStringLiteral("Graph"), *graphs->printGraph(), PageOrientation::AsSetUp));
+    } else if (item == QLatin1String("mnuPrintUltimateScorecard")) {
+        auto *ultimate = qobject_cast<frmUltimateScore *>(m_views->loaded(QStringLiteral("frmUltimateScore")));
+        // No label written yet: a blank card prints as a blank card.
+        frmPrintUltimate blank;
+        QWidget &page = ultimate && ultimate->printForm() ? *ultimate->printForm() : blank;
+        platform().print(FormPrintout(QStringLiteral("Ultimate Scorecard"), page, PageOrientation::AsSetUp));
+    }
 }
 
 void MDIForm1::buildToolbar()

@@ -27,6 +27,19 @@ bool &loopRunning()
     return running;
 }
 
+// The run under way: its hold on the installation and what it was started with, which a
+// restart takes over.
+struct Run {
+    SingleInstance *instance = nullptr;
+    QString commandLine;
+};
+
+Run &currentRun()
+{
+    static Run run;
+    return run;
+}
+
 // Everything the program holds goes while the application object stands: the windows, the
 // golfer's rows, then the connection.
 void releaseEverything()
@@ -53,7 +66,8 @@ int RunProgram(const QStringList &arguments)
     endRequested() = false;
     SingleInstance instance(appFile(SingleInstance::defaultLockName()));
     MDIForm1 &frame = MDIForm1::instance();
-    const StartupOutcome outcome = MDIForm1_Load(frame, instance, arguments.join(QLatin1Char(' ')));
+    currentRun() = Run{&instance, arguments.join(QLatin1Char(' '))};
+    const StartupOutcome outcome = MDIForm1_Load(frame, instance, currentRun().commandLine);
     if (outcome == StartupOutcome::ChoosingGolfer)
         frame.AskForGolfer();
     int status = 0;
@@ -64,7 +78,23 @@ int RunProgram(const QStringList &arguments)
         loopRunning() = false;
     }
     releaseEverything();
+    currentRun() = Run();
     return status;
+}
+
+void RestartProgram()
+{
+    // A frame started without RunProgram holds no lock of a run: the restart takes the
+    // installation's lock for its own span, as a start would.
+    SingleInstance own(appFile(SingleInstance::defaultLockName()));
+    Run &run = currentRun();
+    MDIForm1 &frame = MDIForm1::instance();
+    switch (MDIForm1_Load(frame, run.instance ? *run.instance : own, run.commandLine)) {
+    case StartupOutcome::ChoosingGolfer: frame.AskForGolfer(); break;
+    case StartupOutcome::Exit: frame.EndProgram(); break;
+    case StartupOutcome::Locked:
+    case StartupOutcome::Interrupted: break;
+    }
 }
 
 } // namespace quillon

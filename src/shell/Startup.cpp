@@ -3,6 +3,7 @@
 #include "MDIForm1.h"
 #include "SingleInstance.h"
 #include "basLogGlobals.h"
+#include "frmProgress.h"
 #include "core/Int16.h"
 #include "platform/Hourglass.h"
 #include "platform/Platform.h"
@@ -75,13 +76,15 @@ StartupOutcome MDIForm1_Load(MDIForm1 &frame, SingleInstance &instance, const QS
 
         g.gHelpFile = appFile(QStringLiteral("help/index.html"));
 
+        // A failed upgrade has changed no file; the start goes on with the database that stands.
         try {
-            CheckForUpdate();
-        } catch (const QuillonError &) {
+            CheckForUpdate(platform().appDir(), frmProgress::instance());
+        } catch (const std::exception &) {
             platform().messageBox(QStringLiteral("Unable to update the Quillon database.  Please contact "
                                                  "Harrowmere Systems for assistance."),
                                   MsgIcon::Critical, appTitle());
         }
+        frmProgress::unload();
 
         const QString path = appFile(QStringLiteral("Quillon.qdl"));
         if (!QFileInfo::exists(path)) {

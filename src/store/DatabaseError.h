@@ -21,6 +21,7 @@ constexpr int Perm = 3;
 constexpr int Busy = 5;
 constexpr int Locked = 6;
 constexpr int ReadOnly = 8;
+constexpr int Corrupt = 11;
 constexpr int CantOpen = 14;
 constexpr int Constraint = 19;
 } // namespace engine

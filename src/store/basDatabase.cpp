@@ -190,6 +190,22 @@ ConnectionPtr OpenDatabase(const QString &path)
     return c;
 }
 
+ConnectionPtr OpenDatabaseFile(const QString &path, OpenMode mode)
+{
+    const QFileInfo info(path);
+    if (!info.exists() || !info.isFile())
+        throw QuillonError(53, QStringLiteral("File not found: %1").arg(path));
+    std::shared_ptr<Connection> c(new Connection(path));
+    QSqlDatabase db = c->database();
+    if (mode == OpenMode::ReadOnly)
+        db.setConnectOptions(db.connectOptions() + QStringLiteral(";QSQLITE_OPEN_READONLY"));
+    if (!db.open())
+        throw DatabaseError(db.lastError());
+    // The engine reads nothing until asked: the catalogue tells a database from other bytes.
+    Scalar(*c, QStringLiteral("SELECT COUNT(*) FROM sqlite_master"));
+    return c;
+}
+
 Writability CheckWritable(Connection &connection)
 {
     // The rollback journal is made beside the file, so the folder must take new files too.

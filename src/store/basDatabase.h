@@ -16,6 +16,9 @@ using Params = QVariantList;
 
 class StatementCache;
 
+// How OpenDatabaseFile opens a file: ReadOnly never changes it.
+enum class OpenMode { ReadWrite, ReadOnly };
+
 // One run of a statement, checked out of its connection's cache for as long as it is
 // walked: a second run of the same text meanwhile gets a query of its own, and the query
 // goes back to the cache when the walk ends.
@@ -85,6 +88,11 @@ const QStringList &requiredTables();
 // Open a Quillon database.  Nothing on any failure, silently: a missing file,
 // an unreadable or damaged one, or an SQLite file without our tables.  The caller decides what to say.
 ConnectionPtr OpenDatabase(const QString &path);
+
+// Open an SQLite file whatever it holds (an older database being upgraded, a backup being copied or
+// checked), reading its catalogue so that other bytes are told at once.  Throws QuillonError: 53 for
+// a missing file, else the engine's failure.
+ConnectionPtr OpenDatabaseFile(const QString &path, OpenMode mode = OpenMode::ReadWrite);
 
 // Whether the program can write to an open database: a read-only file or folder, or another
 // program holding a lock on the file, would let a user type a round that cannot be saved.

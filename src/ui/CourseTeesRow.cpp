@@ -1,5 +1,7 @@
 #include "CourseTeesRow.h"
 
+#include "platform/Platform.h"
+
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QLabel>
@@ -28,6 +30,18 @@ CourseTeesLists AddCourseTeesRow(QWidget *owner, QBoxLayout *into)
     row->addStretch(1);
     into->addLayout(row);
     return lists;
+}
+
+bool OfferTees(QComboBox &list, const QStringList &tees, const QString &title)
+{
+    list.clear();
+    if (tees.isEmpty()) {
+        platform().messageBox(QStringLiteral("Course data is not available."), MsgIcon::Critical, title);
+        return false;
+    }
+    list.addItems(tees);
+    list.setCurrentIndex(0);
+    return true;
 }
 
 } // namespace quillon

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QStringList>
+
 class QBoxLayout;
 class QComboBox;
 class QWidget;
@@ -13,5 +15,9 @@ struct CourseTeesLists {
     QComboBox *tees = nullptr;
 };
 CourseTeesLists AddCourseTeesRow(QWidget *owner, QBoxLayout *into);
+
+// Offer a course's sets of tees in `list`, the first one chosen.  A course without any is
+// missing its data, which the user is told under `title`; false then.
+bool OfferTees(QComboBox &list, const QStringList &tees, const QString &title);
 
 } // namespace quillon

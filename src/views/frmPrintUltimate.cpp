@@ -1,9 +1,11 @@
 #include "frmPrintUltimate.h"
 
+#include "print/ReportPainter.h"
+
 #include "shell/basLogGlobals.h"
+#include "ui/PageTitle.h"
 
 #include <QBoxLayout>
-#include <QFont>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -105,14 +107,7 @@ frmPrintUltimate::frmPrintUltimate(QWidget *parent) : QWidget(parent)
     setAttribute(Qt::WA_DontShowOnScreen);
 
     auto *layout = new QVBoxLayout(this);
-    auto *title = named(QStringLiteral("lblTitle"), this);
-    title->setText(QStringLiteral("Ultimate Scorecard"));
-    QFont big = title->font();
-    big.setPointSizeF(big.pointSizeF() * 1.6);
-    big.setBold(true);
-    title->setFont(big);
-    title->setAlignment(Qt::AlignCenter);
-    layout->addWidget(title);
+    layout->addWidget(PageTitle(QStringLiteral("Ultimate Scorecard"), this));
 
     auto *heading = new QGridLayout;
     m_lblGolfer = named(QStringLiteral("lblGolfer"), this);
@@ -145,6 +140,9 @@ frmPrintUltimate::frmPrintUltimate(QWidget *parent) : QWidget(parent)
     m_lblNumRounds = named(QStringLiteral("lblNumRounds"), this);
     layout->addWidget(m_lblNumRounds);
     layout->addStretch(1);
+    auto *footer = named(QStringLiteral("lblFooterNotice"), this);
+    footer->setText(FooterNotice());
+    layout->addWidget(footer);
 
     // The handicap-free program prints no handicap.
     if (basLogGlobals().gCommandString != QLatin1String("-h")) {

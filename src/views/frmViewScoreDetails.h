@@ -1,12 +1,10 @@
 #pragma once
 
+#include "ScoreDetailsCard.h"
 #include "ui/ViewHost.h"
 
 #include <QDate>
-#include <QHash>
-#include <QVector>
 
-class QCheckBox;
 class QLabel;
 class QPushButton;
 
@@ -30,16 +28,12 @@ public:
 
 private:
     void FillScoreDetails();
-    void clearCard();
     void ComputeRoundStatistics();
-    QLabel *value(const QString &name) const { return m_values.value(name); }
+    QLabel *value(const QString &name) const { return m_card.value(name); }
 
     qint64 m_scoreIndex = 0;
     QDate m_scoreDate;
-    QHash<QString, QLabel *> m_values; // every value label by name
-    QVector<QLabel *> m_lblScore, m_lblPutts;
-    QVector<QCheckBox *> m_chkFairway;
-    QVector<std::optional<int>> m_pars;
+    ScoreDetailsCard m_card;
     QPushButton *m_cmdOK = nullptr;
 };
 

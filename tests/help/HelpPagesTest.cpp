@@ -46,7 +46,7 @@ TEST(HelpPagesTest, TheExpectedPagesAreThere)
     const QStringList present = pages();
     for (const char *page : {"index.html", "starting.html", "golfer.html", "course.html", "score.html",
                              "scorelog.html", "menus.html", "handicap.html", "about.html", "views.html", "stats.html", "graphs.html",
-                             "calculators.html"})
+                             "calculators.html", "database.html", "printing.html"})
         EXPECT_TRUE(present.contains(QLatin1String(page))) << page;
     EXPECT_TRUE(kHelp.exists(QStringLiteral("help.css")));
 }
@@ -174,4 +174,26 @@ TEST(HelpPagesTest, CalculatorsPageHoldsItsPlacesAndTheMenusLinkThere)
     EXPECT_TRUE(menuLinks.contains(QStringLiteral("calculators.html#hdcpcalc")));
     EXPECT_TRUE(menuLinks.contains(QStringLiteral("calculators.html#rscalc")));
     EXPECT_TRUE(hrefs(read(kHelp.filePath(QStringLiteral("course.html")))).contains(QStringLiteral("calculators.html#rscalc")));
+}
+
+TEST(HelpPagesTest, DatabasePageHoldsItsPlacesAndTheMenusLinkThere)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("database.html")));
+    for (const char *place : {"upgrade", "backup", "restore"})
+        EXPECT_TRUE(hasPlace(html, QLatin1String(place))) << place;
+    const QStringList menuLinks = hrefs(read(kHelp.filePath(QStringLiteral("menus.html"))));
+    EXPECT_TRUE(menuLinks.contains(QStringLiteral("database.html#backup")));
+    EXPECT_TRUE(menuLinks.contains(QStringLiteral("database.html#restore")));
+    EXPECT_TRUE(hrefs(read(kHelp.filePath(QStringLiteral("starting.html")))).contains(QStringLiteral("database.html#upgrade")));
+}
+
+TEST(HelpPagesTest, PrintingPageHoldsAPlaceForEveryPrintoutAndTheMenusLinkThere)
+{
+    const QString html = read(kHelp.filePath(QStringLiteral("printing.html")));
+    const QStringList places = {"setup", "scorelog", "details", "scorecard", "ultimate", "statistics", "graph"};
+    const QStringList menuLinks = hrefs(read(kHelp.filePath(QStringLiteral("menus.html"))));
+    for (const QString &place : places) {
+        EXPECT_TRUE(hasPlace(html, place)) << place.toStdString();
+        EXPECT_TRUE(menuLinks.contains(QStringLiteral("printing.html#") + place)) << place.toStdString();
+    }
 }

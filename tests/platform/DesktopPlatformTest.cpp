@@ -3,6 +3,7 @@
 #include "ModalAnswer.h"
 #include "PrinterSettingsPrinting.h"
 #include "TestPrinting.h"
+#include "core/QuillonError.h"
 #include "desktop/PrinterSettings.h"
 #include "platform/Hourglass.h"
 
@@ -13,6 +14,8 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QFileInfo>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
@@ -73,7 +76,8 @@ std::optional<QString> pdfText(const QString &path)
     process.start(tool, {QStringLiteral("-layout"), path, QStringLiteral("-")});
     if (!process.waitForFinished(10000))
         return QString();
-    return QString::fromUtf8(process.readAllStandardOutput());
+    // Ligatures ("fi" drawn as one glyph) come back as their letters.
+    return QString::fromUtf8(process.readAllStandardOutput()).normalized(QString::NormalizationForm_KC);
 }
 
 void paintPage(QPagedPaintDevice &device, const QString &text)
@@ -309,4 +313,58 @@ TEST_F(DesktopPlatformTest, PrintSetUpCancelledKeepsTheEarlierSettings)
 }
 
 } // namespace
+} // namespace quillon::test
+
+namespace quillon::test {
+
+TEST_F(DesktopPlatformTest, PdfChosenInSetUpStandsInForAPrinter)
+{
+    QPrinter &setup = desktop().setupPrinter();
+    setup.setOutputFormat(QPrinter::PdfFormat);
+    setup.setOutputFileName(file(QStringLiteral("set up.pdf")));
+    EXPECT_EQ(desktop().defaultPrinterName(), QStringLiteral("PDF file"));
+}
+
+TEST_F(DesktopPlatformTest, WithPdfChosenEachPrintoutIsPreviewedForAFileOfItsOwnAndClosingPrintsNothing)
+{
+    QPrinter &setup = desktop().setupPrinter();
+    setup.setOutputFormat(QPrinter::PdfFormat);
+    setup.setOutputFileName(file(QStringLiteral("set up.pdf")));
+    QString target;
+    QString title;
+    answerNextModal<QPrintPreviewDialog>([&](QPrintPreviewDialog &preview) {
+        target = preview.printer()->outputFileName();
+        title = preview.windowTitle();
+        preview.reject();
+    });
+    int painted = 0;
+    QPageLayout::Orientation orientation = QPageLayout::Portrait;
+    PrintJob job{QStringLiteral("Score Log"), PageOrientation::Landscape, [&](QPagedPaintDevice &device) {
+                     ++painted;
+                     orientation = device.pageLayout().orientation();
+                     QPainter painter(&device);
+                     painter.drawText(100, 100, QStringLiteral("a page"));
+                 }};
+    EXPECT_FALSE(platform().print(job));
+    EXPECT_EQ(title, QStringLiteral("Score Log"));
+    EXPECT_EQ(target, file(QStringLiteral("Score Log.pdf")));
+    EXPECT_GE(painted, 1) << "the preview draws the pages";
+    EXPECT_EQ(orientation, QPageLayout::Landscape);
+    EXPECT_FALSE(QFile::exists(file(QStringLiteral("Score Log.pdf"))));
+    EXPECT_EQ(setup.outputFileName(), file(QStringLiteral("set up.pdf"))) << "the set-up stays as chosen";
+}
+
+TEST_F(DesktopPlatformTest, WithoutAPrinterOrPdfChosenPrintingFailsWithAPrinterError)
+{
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        GTEST_SKIP() << "this machine has a printer";
+    PrintJob job{QStringLiteral("Score Log"), PageOrientation::AsSetUp, [](QPagedPaintDevice &) {}};
+    try {
+        platform().print(job);
+        FAIL() << "printed without a printer";
+    } catch (const QuillonError &e) {
+        EXPECT_EQ(e.number(), 482);
+    }
+}
+
 } // namespace quillon::test

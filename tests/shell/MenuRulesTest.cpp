@@ -222,14 +222,25 @@ TEST_F(FrameMenus, WithoutADefaultPrinterEveryPrintItemAnswersWithABoxAndNoPage)
     EXPECT_TRUE(app.platform().printedFiles().isEmpty());
 }
 
-TEST_F(FrameMenus, PrintItemsWithoutTheirPrintoutAreNeverOffered)
+TEST_F(FrameMenus, InTheScoreLogThePrintItemsFollowTheLogAndItsDetailedRounds)
 {
     addGolfer(app.db(), QStringLiteral("Palmer"), QStringLiteral("Arnold"));
+    addCourse(app.db());
+    addRound(app.db(), RoundSpec{});
     chooseGolfer(QStringLiteral("Palmer, Arnold"));
-    for (const char *item :
-         {"mnuPrintScorecard", "mnuPrintScoreLog", "mnuPrintScoreDetails", "mnuPrintScoringRecord",
-          "mnuPrintStatistics", "mnuPrintGraph", "mnuPrintUltimateScorecard"})
-        EXPECT_EQ(enabled(QLatin1String(item)), frame->isBuilt(QLatin1String(item))) << item;
+    EXPECT_TRUE(enabled(QStringLiteral("mnuPrintScorecard")));
+    EXPECT_TRUE(enabled(QStringLiteral("mnuPrintScoreLog")));
+    EXPECT_FALSE(enabled(QStringLiteral("mnuPrintScoreDetails"))) << "no round has details";
+    for (const char *item : {"mnuPrintStatistics", "mnuPrintGraph", "mnuPrintUltimateScorecard"})
+        EXPECT_FALSE(enabled(QLatin1String(item))) << item;
+
+    RoundSpec detailed;
+    detailed.date = QDate(2026, 2, 1);
+    detailed.details = true;
+    const qint64 index = addRound(app.db(), detailed);
+    addHoleScores(app.db(), detailed, index, 1, QVector<int>(18, 4), QVector<int>(18, 4));
+    frame->UpdateMenus(QStringLiteral("frmScoreLog"));
+    EXPECT_TRUE(enabled(QStringLiteral("mnuPrintScoreDetails")));
 }
 
 TEST_F(FrameMenus, ClosingWithUnsavedInputAsksAndKeepsTheFrameOnNo)

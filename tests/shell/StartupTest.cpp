@@ -2,6 +2,8 @@
 #include "Fixtures.h"
 #include "TestApp.h"
 #include "Widgets.h"
+#include "FileFixtures.h"
+#include "shell/frmProgress.h"
 #include "shell/MDIForm1.h"
 #include "shell/SingleInstance.h"
 
@@ -12,14 +14,19 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QProcess>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QThread>
+#include <QTimer>
+#include <algorithm>
 
 using namespace quillon;
 using namespace quillon::test;
@@ -47,17 +54,62 @@ QStringList snapshot(const QString &dir)
     return out;
 }
 
-bool waitFor(const std::function<bool()> &condition, int ms = 15000)
+bool waitFor(const std::function<bool()> &condition, int ms = 15000, int pollMs = 20)
 {
     QElapsedTimer t;
     t.start();
     while (!condition()) {
         if (t.elapsed() > ms)
             return false;
-        QThread::msleep(20);
+        QThread::msleep(pollMs);
     }
     return true;
 }
+
+// What the progress form showed while the start ran: looked at each time the work let the
+// program's messages run.
+class ProgressWatch {
+public:
+    struct Seen {
+        QString title;
+        QString description;
+        QString status;
+        int value = 0;
+        int maximum = 0;
+        bool centred = false;
+    };
+
+    ProgressWatch()
+    {
+        m_timer.setInterval(0);
+        QObject::connect(&m_timer, &QTimer::timeout, [this] { look(); });
+        m_timer.start();
+    }
+    void stop() { m_timer.stop(); }
+
+    QVector<Seen> seen;
+
+private:
+    void look()
+    {
+        frmProgress *form = frmProgress::existing();
+        if (!form || !form->isVisible())
+            return;
+        Seen s;
+        s.title = form->findChild<QLabel *>(QStringLiteral("lblTitle"))->text();
+        s.description = form->findChild<QLabel *>(QStringLiteral("lblDesc"))->text();
+        s.status = form->findChild<QLabel *>(QStringLiteral("lblStatus"))->text();
+        const auto *bar = form->findChild<QProgressBar *>(QStringLiteral("pbUpdate"));
+        s.value = bar->value();
+        s.maximum = bar->maximum();
+        const QPoint centre = form->frameGeometry().center();
+        const QPoint screen = QGuiApplication::primaryScreen()->availableGeometry().center();
+        s.centred = (centre - screen).manhattanLength() <= 2;
+        seen << s;
+    }
+
+    QTimer m_timer;
+};
 
 // The program itself, copied into the test's application directory and started there.
 class RealInstance {
@@ -129,6 +181,23 @@ protected:
         return out;
     }
 
+    // "Quillon.qdl" with golfer O'Brien, Pat, a course and a season of detailed rounds; its rows.
+    QStringList layWorkingWithSeason(int rounds)
+    {
+        app.layDatabase();
+        auto c = OpenDatabase(app.file(QStringLiteral("Quillon.qdl")));
+        EXPECT_NE(c, nullptr);
+        if (!c)
+            return {};
+        addGolfer(*c, QStringLiteral("O'Brien"), QStringLiteral("Pat"));
+        addCourse(*c);
+        RoundSpec r;
+        r.last = QStringLiteral("O'Brien");
+        r.first = QStringLiteral("Pat");
+        addSeason(*c, r, rounds);
+        return DatabaseRows(*c);
+    }
+
     TestApp app{false};
     std::unique_ptr<SingleInstance> m_instance;
 };
@@ -171,20 +240,111 @@ TEST_F(Startup, FreshInstallAsksForTheFirstGolferWithAnEmptyListAndExit)
     EXPECT_TRUE(app.platform().messages().isEmpty());
 }
 
-TEST_F(Startup, UpdateFileBesideAnExistingDatabaseLeavesTheUsersDataWhole)
+TEST_F(Startup, UpdateFileBesideAnExistingDatabaseIsUpgradedOnScreenBeforeTheGolferIsAsked)
+{
+    const QStringList before = layWorkingWithSeason(1600);
+    app.layDatabase(QStringLiteral("Update.qdl"));
+
+    ProgressWatch watch;
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    watch.stop();
+
+    // The form stood centred with its texts while the rows moved, the bar moving with them.
+    ASSERT_FALSE(watch.seen.isEmpty()) << "no progress form was seen";
+    QStringList statuses;
+    QList<int> values;
+    for (const ProgressWatch::Seen &s : watch.seen) {
+        EXPECT_EQ(s.title, QStringLiteral("New database detected.  Update in progress ..."));
+        EXPECT_EQ(s.description, QStringLiteral("Loading Quillon for Golf"));
+        EXPECT_TRUE(s.centred);
+        if (statuses.isEmpty() || statuses.last() != s.status)
+            statuses << s.status;
+        if (s.maximum > 0 && (values.isEmpty() || values.last() != s.value))
+            values << s.value;
+    }
+    EXPECT_EQ(statuses, (QStringList{"", "Copying handicap data", "Copying course data", "Copying score data",
+                                     "Restoring ..."}));
+    EXPECT_EQ(watch.seen.last().maximum, 1 + 1 + 18 + 1600 + 1600 * 18);
+    EXPECT_GE(values.size(), 4) << "the bar moved as the rounds went";
+    EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
+    EXPECT_EQ(values.last(), 1 + 1 + 18 + 1600);
+    EXPECT_EQ(frmProgress::existing(), nullptr) << "the form is gone once the work is done";
+
+    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Update.qdl"))));
+    EXPECT_TRUE(QFile::exists(app.file(QStringLiteral("quillon.bak"))));
+    EXPECT_TRUE(app.platform().messages().isEmpty());
+    EXPECT_EQ(DatabaseRows(*basLogGlobals().gConnection), before);
+
+    // Then the golfer dialog, over the upgraded rows.
+    QStringList golfers;
+    ModalScript script;
+    script.expect(QStringLiteral("frmNewGolfer"), [&](QWidget *dialog) {
+        auto *list = findControl<QListWidget>(dialog, QStringLiteral("lstGolferList"));
+        for (int i = 0; i < list->count(); ++i)
+            golfers << list->item(i)->text();
+        static_cast<QDialog *>(dialog)->done(QDialog::Rejected);
+    });
+    MDIForm1::instance().AskForGolfer();
+    EXPECT_EQ(golfers, QStringList{"O'Brien, Pat"});
+}
+
+TEST_F(Startup, FailedUpgradeIsToldAndTheStartGoesOnWithTheDatabaseThatStands)
 {
     app.layDatabase();
     {
         auto c = OpenDatabase(app.file(QStringLiteral("Quillon.qdl")));
         ASSERT_NE(c, nullptr);
         addGolfer(*c, QStringLiteral("O'Brien"), QStringLiteral("Pat"));
+        addCourse(*c);
     }
-    app.layDatabase(QStringLiteral("Update.qdl"));
+    // The new file is damaged: the upgrade cannot be carried out.
+    const QString update = app.file(QStringLiteral("Update.qdl"));
+    {
+        QFile f(update);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(QByteArray("half a download\n").repeated(200));
+    }
+    const QStringList before = snapshot(app.dir());
+
     EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
-    // The user's database stays the working one, with its rows; nothing is thrown away.
+    const auto shown = app.platform().takeMessages();
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_EQ(shown[0].text, QStringLiteral("Unable to update the Quillon database.  Please contact Harrowmere "
+                                            "Systems for assistance."));
+    EXPECT_EQ(shown[0].icon, MsgIcon::Critical);
+    EXPECT_EQ(shown[0].title, QStringLiteral("Quillon for Golf"));
+    EXPECT_FALSE(shown[0].pointerBusy);
+    EXPECT_EQ(frmProgress::existing(), nullptr);
+    QStringList after = snapshot(app.dir());
+    after.removeIf([](const QString &s) { return s.startsWith(QStringLiteral("Quillon.lock")); });
+    EXPECT_EQ(after, before) << "the working file and the update file are as they were";
     EXPECT_EQ(columnValues(*basLogGlobals().gConnection, QStringLiteral("SELECT LastName FROM HandicapLog")),
               QStringList{"O'Brien"});
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(Startup, ProgramKilledHalfWayThroughAnUpgradeLosesNothingAndTheNextStartUpgradesCleanly)
+{
+    const QStringList before = layWorkingWithSeason(8000);
+    const QByteArray oldBytes = FileBytes(app.file(QStringLiteral("Quillon.qdl")));
+    app.layDatabase(QStringLiteral("Update.qdl"));
+    const QByteArray updateBytes = FileBytes(app.file(QStringLiteral("Update.qdl")));
+    {
+        RealInstance first(app.dir());
+        // Killed while it fills the new file, which takes it some hundreds of milliseconds.
+        ASSERT_TRUE(waitFor([&] { return QFile::exists(app.file(QStringLiteral("Update.qdl.part"))); }, 15000, 1));
+        QThread::msleep(30);
+        first.crash();
+    }
+    ASSERT_TRUE(QFile::exists(app.file(QStringLiteral("Update.qdl")))) << "the kill came after the upgrade";
+    EXPECT_EQ(FileBytes(app.file(QStringLiteral("Quillon.qdl"))), oldBytes);
+    EXPECT_EQ(FileBytes(app.file(QStringLiteral("Update.qdl"))), updateBytes);
+
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
     EXPECT_TRUE(app.platform().messages().isEmpty());
+    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Update.qdl"))));
+    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Update.qdl.part"))));
+    EXPECT_EQ(DatabaseRows(*basLogGlobals().gConnection), before);
 }
 
 TEST_F(Startup, NoDatabaseShowsTheMissingMessageAndLocksTheFrame)

@@ -1,6 +1,5 @@
 #include "Fixtures.h"
 #include "TestApp.h"
-#include "store/Upgrade.h"
 
 #include <QDir>
 #include <QFile>
@@ -240,26 +239,4 @@ TEST(Database, HeldRecordsetSeesNewRowsOnRequery)
     held.requery();
     EXPECT_EQ(held.rows().rowCount(), 1);
     EXPECT_EQ(signals_, 1);
-}
-
-TEST(UpdateCheck, FreshInstallTakesTheUpdateFileOver)
-{
-    TestApp app(false);
-    app.layDatabase(QStringLiteral("Update.qdl"));
-    const QByteArray shipped = bytesOf(app.file(QStringLiteral("Update.qdl")));
-    CheckForUpdate();
-    EXPECT_FALSE(QFile::exists(app.file(QStringLiteral("Update.qdl"))));
-    EXPECT_EQ(bytesOf(app.file(QStringLiteral("Quillon.qdl"))), shipped);
-    // Nothing else is left behind: no safety copy of a database that did not exist.
-    EXPECT_EQ(QDir(app.dir()).entryList(QDir::Files | QDir::Hidden), QStringList{"Quillon.qdl"});
-}
-
-TEST(UpdateCheck, NoUpdateFileChangesNothing)
-{
-    TestApp app(false);
-    app.layDatabase();
-    const QByteArray before = bytesOf(app.file(QStringLiteral("Quillon.qdl")));
-    CheckForUpdate();
-    EXPECT_EQ(bytesOf(app.file(QStringLiteral("Quillon.qdl"))), before);
-    EXPECT_EQ(QDir(app.dir()).entryList(QDir::Files), QStringList{"Quillon.qdl"});
 }

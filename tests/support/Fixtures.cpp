@@ -79,6 +79,33 @@ void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int fir
     unit.commit();
 }
 
+void addSeason(Connection &c, const RoundSpec &r, int rounds)
+{
+    Transaction unit(c);
+    const qint64 before = Scalar(c, QStringLiteral("SELECT COALESCE(MAX(ScoreIndex), 0) FROM ScoreLog")).toLongLong();
+    Exec(c,
+         QStringLiteral(
+             "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i + 1 < ?) "
+             "INSERT INTO ScoreLog (LastName, FirstName, CourseName, Tees, Date, Holes, Score, AdjustedScore, "
+             "Rating, Slope, Type, Differential, Used, Details, Penalties, LostBalls, Bunkers, SandSaves, "
+             "AttemptedSaves, CombinedIndex) "
+             "SELECT ?, ?, ?, ?, date('2000-01-01', '+' || i || ' days'), '18-holes', 80 + i % 17, 80 + i % 15, "
+             "?, ?, substr('AHT', 1 + i % 3, 1), 8.0 + (i % 90) / 10.0, substr('NNNY', 1 + i % 4, 1), 1, "
+             "i % 4 - 1, i % 3 - 1, i % 5 - 1, i % 2 - 1, i % 3 - 1, 1 FROM n"),
+         {rounds, r.last, r.first, r.course, r.tees, r.rating, r.slope});
+    Exec(c,
+         QStringLiteral(
+             "WITH RECURSIVE h(hole) AS (SELECT 1 UNION ALL SELECT hole + 1 FROM h WHERE hole < 18) "
+             "INSERT INTO ScoreDetails (LastName, FirstName, CourseName, Tees, Date, ScoreIndex, Hole, Score, "
+             "Putts, PAR, Fairway, GreenInRegulation) "
+             "SELECT s.LastName, s.FirstName, s.CourseName, s.Tees, s.Date, s.ScoreIndex, h.hole, "
+             "3 + (s.ScoreIndex + h.hole) % 4, 1 + (s.ScoreIndex * h.hole) % 3, 4, h.hole % 3 - 1, "
+             "(3 + (s.ScoreIndex + h.hole) % 4) - (1 + (s.ScoreIndex * h.hole) % 3) <= 2 "
+             "FROM ScoreLog AS s, h WHERE s.ScoreIndex > ? ORDER BY s.ScoreIndex, h.hole"),
+         {before});
+    unit.commit();
+}
+
 QStringList columnValues(Connection &c, const QString &sql, const Params &params)
 {
     QStringList out;

@@ -48,6 +48,10 @@ void addWeeklyRounds(Connection &c, const QString &last, const QString &firstNam
 void addHoleScores(Connection &c, const RoundSpec &r, qint64 scoreIndex, int firstHole,
                    const QVector<int> &scores, const QVector<int> &pars);
 
+// A season of `rounds` 18-hole rounds of a golfer on one set of tees, a day apart from 1 January
+// 2000, each with its 18 holes, written set by set so that large databases are made quickly.
+void addSeason(Connection &c, const RoundSpec &r, int rounds);
+
 // Column values of every row of a query, as text, for compact assertions.
 QStringList columnValues(Connection &c, const QString &sql, const Params &params = {});
 

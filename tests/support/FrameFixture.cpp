@@ -7,6 +7,9 @@
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmGender.h"
 #include "golfer/frmNewGolfer.h"
+#include "print/frmPrintScoreDetails.h"
+#include "print/frmPrintScorecard.h"
+#include "shell/frmProgress.h"
 #include "ui/FormInstance.h"
 
 #include <QLineEdit>
@@ -32,6 +35,9 @@ void FrameFixture::TearDown()
     FormInstance<frmNewCourse>::destroy();
     FormInstance<frmHdcpCalculator>::destroy();
     FormInstance<frmRSCalculator>::destroy();
+    FormInstance<frmProgress>::destroy();
+    FormInstance<frmPrintScorecard>::destroy();
+    FormInstance<frmPrintScoreDetails>::destroy();
 }
 
 void FrameFixture::chooseGolfer(const QString &typed, bool isNew)

@@ -1,5 +1,7 @@
 #include "ScriptedPlatform.h"
 
+#include "core/QuillonError.h"
+
 #include <QPdfWriter>
 #include <gtest/gtest.h>
 
@@ -26,9 +28,10 @@ MsgAnswer ScriptedPlatform::showMessageBox(const QString &text, MsgIcon icon, co
     return a;
 }
 
-QString ScriptedPlatform::showSaveFileDialog(const QString &, const QString &filter, const QString &)
+QString ScriptedPlatform::showSaveFileDialog(const QString &, const QString &filter, const QString &defaultName)
 {
     m_fileFilters << filter;
+    m_saveDefaultNames << defaultName;
     if (m_saveFiles.empty())
         return QString();
     QString p = m_saveFiles.front();
@@ -67,6 +70,21 @@ std::unique_ptr<QPagedPaintDevice> ScriptedPlatform::openPdfPrinter(const QStrin
     auto writer = std::make_unique<QPdfWriter>(path);
     writer->setTitle(documentName);
     return writer;
+}
+
+bool ScriptedPlatform::showPrintPreview(const PrintJob &job)
+{
+    previewed << job.documentName;
+    if (!previewAnswer)
+        return false;
+    std::unique_ptr<QPagedPaintDevice> device = openPrinter(job.documentName);
+    if (!device)
+        throw QuillonError(482, QStringLiteral("Printer error"));
+    if (job.orientation != PageOrientation::AsSetUp)
+        device->setPageOrientation(job.orientation == PageOrientation::Landscape ? QPageLayout::Landscape
+                                                                                 : QPageLayout::Portrait);
+    job.paint(*device);
+    return true;
 }
 
 void ScriptedPlatform::progress(int value, int maximum, const QString &text)

@@ -57,6 +57,8 @@ public:
     const QStringList &printedFiles() const { return m_printed; }
     // The file filters the file dialogs were asked with, in order.
     const QStringList &fileFilters() const { return m_fileFilters; }
+    // The names the save dialogs were opened with, in order.
+    const QStringList &saveDefaultNames() const { return m_saveDefaultNames; }
 
     // Progress as reported, and how many times it was taken away.
     const QVector<ProgressStep> &progressSteps() const { return m_progressSteps; }
@@ -75,6 +77,9 @@ public:
     // The answer of the printer set-up dialog, and how many times it was shown.
     bool printSetupAnswer = true;
     int printSetupCount = 0;
+    // The answer of the print preview (true: print), and the documents previewed, in order.
+    bool previewAnswer = true;
+    QStringList previewed;
 
 protected:
     MsgAnswer showMessageBox(const QString &text, MsgIcon icon, const QString &title, MsgButtons buttons,
@@ -83,6 +88,7 @@ protected:
                                const QString &defaultName) override;
     QString showOpenFileDialog(const QString &title, const QString &filter) override;
     bool showPrintSetup() override;
+    bool showPrintPreview(const PrintJob &job) override;
     void showBusyPointer(bool busy) override { m_pointerChanges << busy; }
 
 private:
@@ -93,6 +99,7 @@ private:
     QVector<ShownMessage> m_messages;
     QStringList m_printed;
     QStringList m_fileFilters;
+    QStringList m_saveDefaultNames;
     QVector<ProgressStep> m_progressSteps;
     int m_progressDone = 0;
     bool m_progressShowing = false;
