@@ -11,6 +11,8 @@
 #include <QChartView>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QEventLoop>
+#include <QPointer>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLegendMarker>
@@ -186,7 +188,13 @@ void frmGraphs::FormActivate()
 void frmGraphs::cboGraphs_Click()
 {
     Hourglass hourglass;
-    QCoreApplication::processEvents();
+    // The window is painted meanwhile; the user's clicks wait for the chart, as the hourglass
+    // says, since a command run now would close views under the activation still going on.
+    // Should anything close this view all the same, there is nothing left to draw.
+    const QPointer<frmGraphs> self(this);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!self)
+        return;
     RunGuarded([this] {
         const LogGlobals &g = basLogGlobals();
         show(BuildChart(db(), m_cboGraphs->currentText(), g.gLastName, g.gFirstName));

@@ -1,5 +1,6 @@
 #include "frmAbout.h"
 
+#include "ui/DialogPlacement.h"
 #include "ui/FormInstance.h"
 
 #include "ApplicationIcon.h"
@@ -155,15 +156,7 @@ void frmAbout::setSysInfoSource(std::function<QString()> source)
 
 void frmAbout::centreOnFrame()
 {
-    const QWidget *frame = platformInstalled() ? platform().dialogParent() : nullptr;
-    if (!frame)
-        return;
-    // The window must exist for its border to count in its own outer size.
-    winId();
-    const QRect outer = frame->frameGeometry();
-    const QSize own = frameGeometry().size();
-    move(outer.left() + outer.width() / 2 - own.width() / 2,
-         outer.top() + outer.height() / 2 - own.height() / 2);
+    CentreOnFrame(*this);
 }
 
 } // namespace quillon

@@ -12,6 +12,7 @@
 #include <QPieSeries>
 #include <QPieSlice>
 #include <QTest>
+#include <QTimer>
 #include <QValueAxis>
 
 using namespace quillon;
@@ -169,4 +170,18 @@ TEST_F(GraphsView, ComingBackRebuildsTheChosenChart)
     graphs()->FormActivate();
     EXPECT_EQ(list()->currentText(), QStringLiteral("18 Hole Scoring Trend"));
     EXPECT_EQ(qobject_cast<QLineSeries *>(view()->chart()->series().first())->count(), before + 2);
+}
+
+TEST_F(GraphsView, AViewClosedWhileItsPendingEventsRunIsNotDrawnAfterwards)
+{
+    season();
+    startWithPalmer();
+    item(QStringLiteral("mnuViewGraphs"))->trigger();
+    ASSERT_NE(graphs(), nullptr);
+    // The user picks another view while a chart is being made: the graphs view goes while its
+    // chart waits on the pending events.
+    QTimer::singleShot(0, frame, [this] { item(QStringLiteral("mnuViewGolferStatistics"))->trigger(); });
+    choose(3);
+    EXPECT_EQ(graphs(), nullptr);
+    EXPECT_EQ(checkedViews(), QStringList{QStringLiteral("mnuViewGolferStatistics")});
 }
