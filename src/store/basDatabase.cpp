@@ -3,8 +3,10 @@
 #include "DatabaseError.h"
 
 #include <QAtomicInt>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QSqlError>
 #include <QSqlRecord>
 #include <list>
@@ -60,6 +62,23 @@ QString nextConnectionName()
 // How long a statement waits for another program's lock before it fails: long enough for a
 // short write elsewhere to end, short enough that a held lock is told rather than felt.
 constexpr int kBusyTimeoutMs = 1500;
+
+// The process's own descriptor of a file deleted while it is open, as the system names it:
+// through it the deleted file can still be read.  Empty when there is none.
+QString deletedFileDescriptor(const QString &path)
+{
+    const QFileInfo info(path);
+    const QString gone = QDir(info.absolutePath()).canonicalPath() + QLatin1Char('/') + info.fileName() +
+                         QStringLiteral(" (deleted)");
+    const QDir fds(QStringLiteral("/proc/self/fd"));
+    for (const QString &fd : fds.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)) {
+        char target[4096];
+        const ssize_t n = ::readlink(QFile::encodeName(fds.filePath(fd)).constData(), target, sizeof target - 1);
+        if (n > 0 && QFile::decodeName(QByteArray(target, int(n))) == gone)
+            return fds.filePath(fd);
+    }
+    return QString();
+}
 
 } // namespace
 
@@ -164,18 +183,60 @@ Statement Connection::run(const QString &sql, const Params &params)
     }
     for (int i = 0; i < params.size(); ++i)
         q.bindValue(i, params.at(i));
-    // From here the query goes back to the cache however the run ends.
-    Statement statement(m_cache, sql, std::move(q));
-    if (!statement.m_query.exec())
-        throw DatabaseError(statement.m_query.lastError());
-    return statement;
+    QSqlError error;
+    {
+        // From here the query goes back to the cache however the run ends.
+        Statement statement(m_cache, sql, std::move(q));
+        if (statement.m_query.exec())
+            return statement;
+        error = statement.m_query.lastError();
+    }
+    fail(error);
 }
 
 void Connection::runOnce(const QString &sql)
 {
-    QSqlQuery q(database());
-    if (!q.exec(sql))
-        throw DatabaseError(q.lastError());
+    QSqlError error;
+    {
+        QSqlQuery q(database());
+        if (q.exec(sql))
+            return;
+        error = q.lastError();
+    }
+    fail(error);
+}
+
+void Connection::fail(const QSqlError &error)
+{
+    const QuillonError failure = DatabaseError(error);
+    // Once its file is deleted the engine refuses to write, and the rows saved so far live only
+    // in the open file, to be gone when it closes.
+    if (failure.number() != QuillonError::PermissionDenied || m_path.isEmpty() || QFileInfo::exists(m_path))
+        throw failure;
+    if (putBackDeletedFile())
+        throw QuillonError(QuillonError::PermissionDenied,
+                           QStringLiteral("The Quillon database was deleted while the program was running.  It has "
+                                          "been written back with everything saved before; the last change was not "
+                                          "saved."));
+    throw QuillonError(QuillonError::PermissionDenied,
+                       QStringLiteral("The Quillon database was deleted while the program was running.  Nothing "
+                                      "more can be saved to it."));
+}
+
+bool Connection::putBackDeletedFile()
+{
+    // The engine writes nothing to a deleted file, so what it holds is what the last change
+    // that went through left there: a whole database.
+    QFile held(deletedFileDescriptor(m_path));
+    if (held.fileName().isEmpty() || !held.open(QIODevice::ReadOnly))
+        return false;
+    QSaveFile back(m_path);
+    if (!back.open(QIODevice::WriteOnly) || back.write(held.readAll()) != held.size() || !back.commit())
+        return false;
+    held.close();
+    // From here on the program works in the file written back.
+    close();
+    return open();
 }
 
 ConnectionPtr OpenDatabase(const QString &path)

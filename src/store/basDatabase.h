@@ -74,6 +74,9 @@ public:
 private:
     friend std::shared_ptr<Connection> OpenDatabase(const QString &path);
     bool open();
+    // Throws the engine's failure as ours; a file deleted under the connection is first put back.
+    [[noreturn]] void fail(const QSqlError &error);
+    bool putBackDeletedFile();
 
     QString m_name;
     QString m_path;

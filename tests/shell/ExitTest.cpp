@@ -1,4 +1,5 @@
 // Every way out of the program, run as a real process: the status it ends with and what it said.
+#include "FileFixtures.h"
 #include "Fixtures.h"
 #include "TestApp.h"
 #include "shell/SingleInstance.h"
@@ -208,4 +209,34 @@ TEST_F(ExitPaths, DatabaseLockedByAnotherProgramIsToldAfterAShortWait)
         other.close();
     }
     QSqlDatabase::removeDatabase(QStringLiteral("holder"));
+}
+
+TEST_F(ExitPaths, FolderNotWritableAtStartIsToldAndTheDatabaseIsLeftAsItWas)
+{
+    withGolfer();
+    const QString path = app.file(QStringLiteral("Quillon.qdl"));
+    const QStringList before = DatabaseRows(path);
+    const bool root = ::geteuid() == 0;
+    // The file may be written by anyone, its folder by its owner only: the engine could change the
+    // file but not lay its journal beside it, so a save would fail halfway through the user's work.
+    // Root writes anywhere, so as root the program runs as a user that does not own the folder.
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup |
+                                    QFile::ReadOther | QFile::WriteOther);
+    QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
+    if (!root)
+        QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup |
+                                             QFile::ReadOther | QFile::ExeOther);
+    const Ended e =
+        runProgram(app.dir(), QStringLiteral("O'Brien, Pat"), QStringLiteral("close"), QString(), root);
+    QFile::setPermissions(app.dir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    expectCleanEnd(e);
+    EXPECT_EQ(e.messages,
+              QStringList{QStringLiteral("Quillon for Golf|The Quillon database cannot be changed.  Make sure that you "
+                                         "may write to the file %1 and to the folder it is in, then start Quillon for "
+                                         "Golf again.")
+                              .arg(QDir::toNativeSeparators(path))})
+        << e.lines.join('\n').toStdString();
+    EXPECT_FALSE(e.lines.contains(QStringLiteral("ACTION|close"))) << "no golfer may be chosen";
+    EXPECT_EQ(DatabaseRows(path), before);
 }
