@@ -22,7 +22,7 @@ MsgAnswer ScriptedPlatform::showMessageBox(const QString &text, MsgIcon icon, co
 {
     m_messages.push_back({text, icon, title, buttons, defaultButton, pointerBusy()});
     if (m_answers.empty())
-        return defaultButton;
+        return answerer ? answerer(ShownMessage(m_messages.back())) : defaultButton;
     const MsgAnswer a = m_answers.front();
     m_answers.pop_front();
     return a;

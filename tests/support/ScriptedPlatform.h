@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QVector>
 #include <deque>
+#include <functional>
 
 namespace quillon::test {
 
@@ -71,6 +72,10 @@ public:
 
     // Each change of the pointer, in order: true for the hourglass, false for the normal pointer.
     const QVector<bool> &pointerChanges() const { return m_pointerChanges; }
+
+    // Answers the message boxes the queue has no answer for; unset, the box's default button
+    // answers.  A randomized user answers each box itself through it.
+    std::function<MsgAnswer(const ShownMessage &)> answerer;
 
     QString printerName = QStringLiteral("Scripted PDF Printer");
     QDate todayDate = QDate(2026, 11, 22);
