@@ -141,8 +141,15 @@ TEST(Statements, TenThousandTransactionsLeaveTheCacheAndMemoryFlat)
         unit(i);
     const long after = residentPages();
     EXPECT_EQ(app.db().cachedStatements(), cached) << "savepoint names do not grow the cache";
+#if defined(__SANITIZE_ADDRESS__)
+    // The address checker holds freed memory back on purpose, so resident memory grows by design;
+    // its leak check at exit stands in for this measure there.
+    (void)before;
+    (void)after;
+#else
     // 4 KiB pages: well under a megabyte of growth for 10,000 units.
     EXPECT_LT(after - before, 256) << "before " << before << " pages, after " << after;
+#endif
 }
 
 TEST(ErrorNumbers, UniqueKeyViolationIs3022WithTheEnginesText)
