@@ -63,6 +63,10 @@ frmNewGolfer &frmNewGolfer::instance()
 void frmNewGolfer::GetNewGolfer()
 {
     LogGlobals &g = basLogGlobals();
+    // File, Exit chosen while the frame first painted has closed the database: the program is
+    // ending, and no golfer can be chosen from nothing.
+    if (!g.gConnection)
+        return;
     {
         Hourglass hourglass;
         m_cmdCancel->setText(g.gLastName.isEmpty() ? QStringLiteral("E&xit") : QStringLiteral("&Cancel"));

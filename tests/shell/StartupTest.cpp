@@ -7,6 +7,7 @@
 #include "shell/MDIForm1.h"
 #include "shell/SingleInstance.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QDialog>
@@ -469,6 +470,36 @@ TEST_F(Startup, RunningTheSequenceAgainOverTheChangedWindowIsHarmless)
     EXPECT_TRUE(basLogGlobals().gFirstName.isEmpty());
     EXPECT_FALSE(MDIForm1::instance().windowFlags() & Qt::WindowMaximizeButtonHint);
     EXPECT_EQ(MDIForm1::instance().findChildren<QAction *>().size(), actions);
+    EXPECT_TRUE(app.platform().messages().isEmpty());
+}
+
+TEST_F(Startup, ExitChosenWhileTheFrameFirstPaintsEndsWithoutTheGolferDialog)
+{
+    app.layDatabase();
+    // The frame paints before the golfer dialog opens; File, Exit is chosen in that moment.
+    bool exitChosen = false;
+    QTimer::singleShot(0, [&exitChosen] {
+        QAction *exit = MDIForm1::instance().menuItem(QStringLiteral("mnuCourseExit"));
+        exitChosen = exit->isEnabled();
+        exit->trigger();
+    });
+    EXPECT_EQ(start(), StartupOutcome::ChoosingGolfer);
+    ASSERT_TRUE(exitChosen);
+    EXPECT_EQ(basLogGlobals().gConnection, nullptr);
+
+    QString shown;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&shown] {
+        if (QWidget *modal = QApplication::activeModalWidget()) {
+            shown = modal->objectName();
+            modal->close();
+        }
+    });
+    watch.start(20);
+    MDIForm1::instance().AskForGolfer();
+    watch.stop();
+    EXPECT_EQ(shown, QString()) << "no golfer can be chosen once the database is closed";
+    EXPECT_EQ(basLogGlobals().gConnection, nullptr);
     EXPECT_TRUE(app.platform().messages().isEmpty());
 }
 
