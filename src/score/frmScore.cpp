@@ -88,13 +88,19 @@ frmScore::frmScore(QWidget *parent) : EntryForm(parent)
     m_calendar->setObjectName(QStringLiteral("Calendar1"));
     m_calendar->setWindowFlags(Qt::Popup);
     m_calendar->setGridVisible(true);
+    // Dates are typed in the date box.  The calendar's own typed-date popup would also be left
+    // behind, never freed, when the form closes while it stands.
+    m_calendar->setDateEditEnabled(false);
     m_calendar->hide();
-    connect(m_calendar, &QCalendarWidget::clicked, this, [this](const QDate &day) {
+    const auto dayChosen = [this](const QDate &day) {
         m_txtDate->setText(DateText(day));
         markUnsaved();
         m_calendar->hide();
         m_txtDate->setFocus();
-    });
+    };
+    connect(m_calendar, &QCalendarWidget::clicked, this, dayChosen);
+    // Enter on a day chooses it, for the user at the keyboard.
+    connect(m_calendar, &QCalendarWidget::activated, this, dayChosen);
 
     connect(m_cboCourses, &QComboBox::activated, this, [this] { RunGuarded([this] { courseChosen(); }); });
     connect(m_cboTees, &QComboBox::activated, this, [this] { RunGuarded([this] { teesChosen(); }); });

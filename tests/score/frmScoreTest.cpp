@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QFrame>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
@@ -549,6 +550,38 @@ TEST_F(ScoreForm, TheCalendarWritesTheChosenDay)
     emit calendar->clicked(QDate(2026, 10, 3));
     EXPECT_EQ(text("txtDate"), QStringLiteral("10/3/2026"));
     EXPECT_FALSE(calendar->isVisible());
+}
+
+TEST_F(ScoreForm, EnterOnADayOfTheCalendarWritesIt)
+{
+    openNewOn(QStringLiteral("Pebble Creek"));
+    findControl<QPushButton>(form, "cmdCalendar")->click();
+    auto *calendar = findControl<QCalendarWidget>(form, "Calendar1");
+    calendar->setSelectedDate(QDate(2026, 10, 3));
+    QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Right);
+    QTest::keyClick(calendar->focusWidget() ? calendar->focusWidget() : calendar, Qt::Key_Return);
+    EXPECT_EQ(text("txtDate"), QStringLiteral("10/4/2026"));
+    EXPECT_FALSE(calendar->isVisible());
+    EXPECT_EQ(form->window()->focusWidget(), findControl<QLineEdit>(form, "txtDate"));
+}
+
+TEST_F(ScoreForm, KeysTypedInTheCalendarOpenNoDateBoxOfItsOwn)
+{
+    openNewOn(QStringLiteral("Pebble Creek"));
+    findControl<QPushButton>(form, "cmdCalendar")->click();
+    auto *calendar = findControl<QCalendarWidget>(form, "Calendar1");
+    const auto shownFrames = [calendar] {
+        int n = 0;
+        for (QFrame *f : calendar->findChildren<QFrame *>(QString(), Qt::FindDirectChildrenOnly))
+            n += f->isVisible() ? 1 : 0;
+        return n;
+    };
+    const int before = shownFrames();
+    QTest::keyClicks(calendar->focusWidget() ? calendar->focusWidget() : calendar, QStringLiteral("12"));
+    EXPECT_EQ(shownFrames(), before);
+    EXPECT_TRUE(calendar->isVisible());
+    // The form closes at once, the calendar with it: nothing of it may be left behind.
+    findControl<QPushButton>(form, "cmdCancel")->click();
 }
 
 TEST_F(ScoreForm, ClosingTheProgramWithTypedInputAsksFirst)
