@@ -1,25 +1,13 @@
 #include "RandomUser.h"
 
-#include "course/frmDeleteCourse.h"
-#include "course/frmHdcpCalculator.h"
-#include "course/frmNewCourse.h"
-#include "course/frmRSCalculator.h"
-#include "golfer/frmDeleteGolfer.h"
-#include "golfer/frmGender.h"
-#include "golfer/frmNewGolfer.h"
+#include "FrameFixture.h"
+
 #include "handicap/Handicap.h"
-#include "help/frmAbout.h"
-#include "help/frmHelp.h"
-#include "print/frmPrintScoreDetails.h"
-#include "print/frmPrintScorecard.h"
-#include "score/frmScore.h"
 #include "shell/MDIForm1.h"
 #include "shell/SingleInstance.h"
 #include "shell/Startup.h"
 #include "shell/basLogGlobals.h"
-#include "shell/frmProgress.h"
 #include "store/DatabaseFiles.h"
-#include "ui/FormInstance.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -209,23 +197,6 @@ QPoint itemPoint(QAbstractItemView *view, int row, int column)
     return QPoint(s.width() > 0 ? (row * 37) % s.width() : 0, s.height() > 0 ? (column * 53) % s.height() : 0);
 }
 
-void destroyForms()
-{
-    MDIForm1::unload();
-    FormInstance<frmNewGolfer>::destroy();
-    FormInstance<frmDeleteGolfer>::destroy();
-    FormInstance<frmGender>::destroy();
-    FormInstance<frmDeleteCourse>::destroy();
-    FormInstance<frmNewCourse>::destroy();
-    FormInstance<frmHdcpCalculator>::destroy();
-    FormInstance<frmRSCalculator>::destroy();
-    FormInstance<frmProgress>::destroy();
-    FormInstance<frmPrintScorecard>::destroy();
-    FormInstance<frmPrintScoreDetails>::destroy();
-    FormInstance<frmScore>::destroy();
-    FormInstance<frmAbout>::destroy();
-    FormInstance<frmHelp>::destroy();
-}
 
 // Answers the gender question of a golfer never asked, when the handicap is computed afresh.
 class NoteGender : public GenderQuestion {
@@ -300,7 +271,7 @@ RandomUserOutcome RandomUser::run()
     if (m_depth == 0)
         checkInvariants();
     // The program ends with the run, as its process would: the next run starts it anew.
-    destroyForms();
+    DestroyForms();
     basLogGlobals().releaseAll();
     stop = true;
     watchdog.join();
@@ -498,7 +469,7 @@ RandomUser::Action RandomUser::startProgram()
 {
     return {QStringLiteral("start the program"), [] {
                 // As a new process finds it: no form, no global left from the last run.
-                destroyForms();
+                DestroyForms();
                 LogGlobals &g = basLogGlobals();
                 g.releaseAll();
                 g = LogGlobals();
@@ -976,6 +947,12 @@ void RandomUser::checkInvariants()
             fault(QStringLiteral("the copy of the database does not open"));
             return;
         }
+        m_outcome.tableCounts.insert(
+            rowText(Query(*copy, QStringLiteral("SELECT (SELECT COUNT(*) FROM HandicapLog), (SELECT COUNT(*) FROM "
+                                                "CourseLog), (SELECT COUNT(*) FROM ScoreLog), (SELECT COUNT(*) FROM "
+                                                "ScoreDetails)"))
+                        .rows()
+                        .first()));
         for (const QSqlRecord &r :
              Query(*copy, QStringLiteral("SELECT DISTINCT s.LastName, s.FirstName FROM ScoreLog s WHERE NOT EXISTS "
                                          "(SELECT 1 FROM HandicapLog h WHERE h.LastName = s.LastName AND "

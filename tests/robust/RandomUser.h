@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QHash>
+#include <QSet>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -37,6 +38,9 @@ struct RandomUserOutcome {
     QStringList faults;
     // The actions in order, each with the message boxes it met and how they were answered.
     QStringList actionLog;
+    // The row counts of the four tables at each check of the invariants, told apart: how much
+    // the run really changed the database.
+    QSet<QString> tableCounts;
     // How often each critical message was shown.
     QHash<QString, int> criticalMessages;
 };

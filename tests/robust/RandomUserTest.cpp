@@ -89,8 +89,10 @@ RandomUserOutcome runSeed(quint32 seed, int actions, int timeLimitMs)
     options.timeLimitMs = timeLimitMs;
     RandomUser user(app.platform(), options);
     RandomUserOutcome outcome = user.run();
-    std::printf("seed %u: %d actions in %lld ms, %d checks of the invariants%s\n", seed, outcome.actionsRun,
-                static_cast<long long>(outcome.elapsedMs), outcome.invariantChecks,
+    std::printf("seed %u: %d actions in %lld ms, %d checks of the invariants, %d different counts of golfers, "
+                "tees, rounds and holes%s\n",
+                seed, outcome.actionsRun, static_cast<long long>(outcome.elapsedMs), outcome.invariantChecks,
+                int(outcome.tableCounts.size()),
                 outcome.timedOut ? " (stopped by the time limit)" : "");
     for (auto it = outcome.criticalMessages.cbegin(); it != outcome.criticalMessages.cend(); ++it)
         std::printf("    critical message x%d: %s\n", it.value(), qPrintable(QString(it.key()).replace('\n', ' ')));

@@ -7,8 +7,11 @@
 #include "golfer/frmDeleteGolfer.h"
 #include "golfer/frmGender.h"
 #include "golfer/frmNewGolfer.h"
+#include "help/frmAbout.h"
+#include "help/frmHelp.h"
 #include "print/frmPrintScoreDetails.h"
 #include "print/frmPrintScorecard.h"
+#include "score/frmScore.h"
 #include "shell/frmProgress.h"
 #include "ui/FormInstance.h"
 
@@ -25,7 +28,7 @@ void FrameFixture::SetUp()
     ASSERT_TRUE(QTest::qWaitForWindowExposed(frame));
 }
 
-void FrameFixture::TearDown()
+void DestroyForms()
 {
     MDIForm1::unload();
     FormInstance<frmNewGolfer>::destroy();
@@ -38,6 +41,14 @@ void FrameFixture::TearDown()
     FormInstance<frmProgress>::destroy();
     FormInstance<frmPrintScorecard>::destroy();
     FormInstance<frmPrintScoreDetails>::destroy();
+    FormInstance<frmScore>::destroy();
+    FormInstance<frmAbout>::destroy();
+    FormInstance<frmHelp>::destroy();
+}
+
+void FrameFixture::TearDown()
+{
+    DestroyForms();
 }
 
 void FrameFixture::chooseGolfer(const QString &typed, bool isNew)

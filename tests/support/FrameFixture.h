@@ -10,6 +10,9 @@
 
 namespace quillon::test {
 
+// Every form gone, the frame first, as when the program's process ends.
+void DestroyForms();
+
 // The frame on screen over a fresh database, with the scripted platform; a golfer is chosen
 // through the real golfer dialog when a test asks.
 class FrameFixture : public ::testing::Test {
