@@ -42,6 +42,8 @@
 #include <cstdio>
 #include <cstring>
 #include <thread>
+#include <numeric>
+#include <algorithm>
 
 namespace quillon::test {
 
@@ -437,9 +439,9 @@ RandomUser::Action RandomUser::choose()
     QWidget *root = actingRoot();
     if (!root)
         return menuCommand();
-    if (r < 40)
+    if (r < 45)
         return fillEmptyBoxes(root);
-    if (r < 43 && root->isWindow() && root != frame)
+    if (r < 48 && root->isWindow() && root != frame)
         return closeWindow(root);
     return widgetAction(root);
 }
@@ -839,6 +841,23 @@ RandomUser::Action RandomUser::fillEmptyBoxes(QWidget *root)
     // often, the form's own button.  Random keys alone would seldom get a round or a course saved.
     QList<QPointer<QLineEdit>> boxes;
     QStringList values;
+    // The user picks from the lists first (a course, its tees, the holes), as the form asks.
+    QList<QPointer<QComboBox>> lists;
+    QVector<int> choices;
+    for (QComboBox *c : root->findChildren<QComboBox *>()) {
+        if (!usable(c) || c->count() == 0 || c->window() != root->window() || !chance(60))
+            continue;
+        lists << c;
+        choices << pick(c->count());
+    }
+    // Hole handicaps are a shuffle of 1 to 18, as on a real card.
+    QVector<int> handicaps(18);
+    std::iota(handicaps.begin(), handicaps.end(), 1);
+    std::shuffle(handicaps.begin(), handicaps.end(), m_rng);
+    // A hole's putts stay below its score, as on a real card.
+    QVector<int> strokes(18);
+    for (int &n : strokes)
+        n = 3 + pick(5);
     for (QLineEdit *e : root->findChildren<QLineEdit *>()) {
         if (!usable(e) || e->isReadOnly() || !e->text().isEmpty() || e->window() != root->window())
             continue;
@@ -846,14 +865,29 @@ RandomUser::Action RandomUser::fillEmptyBoxes(QWidget *root)
         if (name.isEmpty() && e->parentWidget())
             name = e->parentWidget()->objectName();
         QString value;
-        if (name.contains(QLatin1String("Rating")))
+        const int hole = name.section(QLatin1Char('_'), 1).toInt();
+        if (name.contains(QLatin1String("Hdcp")))
+            value = QString::number(handicaps.at(qBound(0, hole, 17)));
+        // Figures that agree with one another: lost balls within penalties, saves within tries
+        // within bunkers.
+        else if (name.contains(QLatin1String("Penalties")))
+            value = QString::number(2 + pick(2));
+        else if (name.contains(QLatin1String("LostBalls")) || name.contains(QLatin1String("SandSaves")))
+            value = QString::number(pick(2));
+        else if (name.contains(QLatin1String("AttemptedSaves")))
+            value = QString::number(1 + pick(2));
+        else if (name.contains(QLatin1String("Bunkers")))
+            value = QString::number(3 + pick(2));
+        else if (name.contains(QLatin1String("Rating")))
             value = QStringLiteral("%1.%2").arg(60 + pick(15)).arg(pick(10));
         else if (name.contains(QLatin1String("Slope")))
             value = QString::number(55 + pick(101));
         else if (name.contains(QLatin1String("Par")))
             value = QString::number(3 + pick(3));
         else if (name.contains(QLatin1String("Putts")))
-            value = QString::number(1 + pick(3));
+            value = QString::number(1 + pick(qMin(3, strokes.at(qBound(0, hole, 17)) - 1)));
+        else if (name.startsWith(QLatin1String("txtScore_")))
+            value = QString::number(strokes.at(qBound(0, hole, 17)));
         else if (name.contains(QLatin1String("Total")))
             value = QString::number(70 + pick(40));
         else if (name.contains(QLatin1String("Score")) || name.contains(QLatin1String("Hole")))
@@ -870,23 +904,43 @@ RandomUser::Action RandomUser::fillEmptyBoxes(QWidget *root)
             value = QString::number(100 + pick(450));
         else
             value = QString::number(1 + pick(99));
-        boxes << e;
-        values << value;
+        // Totals come last, and only where typing the holes left them empty: the form sums as
+        // the user types.
+        if (name.endsWith(QLatin1String("Out")) || name.endsWith(QLatin1String("In")) ||
+            name.startsWith(QLatin1String("txtTotal"))) {
+            boxes.append(e);
+            values.append(value);
+        } else {
+            boxes.prepend(e);
+            values.prepend(value);
+        }
     }
     QPointer<QAbstractButton> button;
-    if (chance(60))
+    if (chance(80))
         for (const char *name : {"cmdSave", "cmdOK", "cmdCalculate", "cmdPrint", "cmdDelete"})
             if (auto *b = root->findChild<QAbstractButton *>(QLatin1String(name)); usable(b)) {
                 button = b;
                 break;
             }
-    return {QStringLiteral("fill %1 empty boxes of %2 with %3%4")
+    QStringList picked;
+    for (int i = 0; i < lists.size(); ++i)
+        picked << QStringLiteral("%1 item %2").arg(lists.at(i)->objectName()).arg(choices.at(i));
+    return {QStringLiteral("%1fill %2 empty boxes of %3 with %4%5")
+                .arg(picked.isEmpty() ? QString() : QStringLiteral("choose ") + picked.join(QStringLiteral(", ")) +
+                                                        QStringLiteral(", then "))
                 .arg(boxes.size())
                 .arg(describe(root), values.join(QLatin1Char(' ')),
                      button ? QStringLiteral(", then click ") + button->objectName() : QString()),
-            [boxes, values, button] {
+            [lists, choices, boxes, values, button] {
+                for (int i = 0; i < lists.size(); ++i) {
+                    QComboBox *list = lists.at(i);
+                    if (!usable(list) || choices.at(i) >= list->count())
+                        continue;
+                    list->setCurrentIndex(choices.at(i));
+                    emit list->activated(choices.at(i));
+                }
                 for (int i = 0; i < boxes.size(); ++i) {
-                    if (!usable(boxes.at(i)))
+                    if (!usable(boxes.at(i)) || !boxes.at(i)->text().isEmpty())
                         continue;
                     focusOn(boxes.at(i));
                     typeText(boxes.at(i).data(), values.at(i));
