@@ -39,6 +39,7 @@
 #include <QWindow>
 #include <chrono>
 #include <csignal>
+#include <signal.h>
 #include <cstdio>
 #include <cstring>
 #include <thread>
@@ -80,10 +81,14 @@ void quietHandler(QtMsgType type, const QMessageLogContext &context, const QStri
         g_previousHandler(type, context, message);
 }
 
+// What stood before ours, so that a sanitizer's own handler still prints its report after the list.
+struct sigaction g_previousSegv;
+struct sigaction g_previousAbrt;
+
 void onFatalSignal(int sig)
 {
     printLogTail(sig == SIGSEGV ? "crashed (SIGSEGV)" : sig == SIGABRT ? "aborted (SIGABRT)" : "died on a signal");
-    std::signal(sig, SIG_DFL);
+    sigaction(sig, sig == SIGSEGV ? &g_previousSegv : &g_previousAbrt, nullptr);
     std::raise(sig);
 }
 
@@ -241,8 +246,11 @@ RandomUserOutcome RandomUser::run()
     m_platform.answerer = [this](const ShownMessage &m) { return answer(m); };
     m_nextCheck = m_options.checkEvery;
     g_previousHandler = qInstallMessageHandler(quietHandler);
-    auto oldSegv = std::signal(SIGSEGV, onFatalSignal);
-    auto oldAbrt = std::signal(SIGABRT, onFatalSignal);
+    struct sigaction ours = {};
+    ours.sa_handler = onFatalSignal;
+    sigemptyset(&ours.sa_mask);
+    sigaction(SIGSEGV, &ours, &g_previousSegv);
+    sigaction(SIGABRT, &ours, &g_previousAbrt);
 
     std::atomic<bool> stop{false};
     m_clock.start();
@@ -277,8 +285,8 @@ RandomUserOutcome RandomUser::run()
     basLogGlobals().releaseAll();
     stop = true;
     watchdog.join();
-    std::signal(SIGSEGV, oldSegv);
-    std::signal(SIGABRT, oldAbrt);
+    sigaction(SIGSEGV, &g_previousSegv, nullptr);
+    sigaction(SIGABRT, &g_previousAbrt, nullptr);
     qInstallMessageHandler(g_previousHandler);
     m_platform.answerer = nullptr;
     m_platform.takeMessages();
@@ -288,7 +296,7 @@ RandomUserOutcome RandomUser::run()
 
 void RandomUser::tick()
 {
-    m_lastProgressMs = m_clock.elapsed();
+    // Only a new action counts as progress: a wait that never ends is a hang.
     if (m_pending || m_done)
         return;
     // Inside a command that only lets pending events run (no dialog of its own), a user's clicks
@@ -301,9 +309,14 @@ void RandomUser::tick()
         m_outcome.timedOut = m_outcome.actionsRun < m_options.actions && m_outcome.faults.isEmpty();
     }
     if (m_finishing) {
+        m_lastProgressMs = m_clock.elapsed();
         finishStep();
         return;
     }
+    // Under the hourglass the program lets only its own pending events run, never the user's
+    // input: a real click waits until the pointer is back, and so does this user.
+    if (m_platform.pointerBusy())
+        return;
     if (m_depth == 0 && m_outcome.actionsRun >= m_nextCheck) {
         checkInvariants();
         m_nextCheck = m_outcome.actionsRun + m_options.checkEvery;
@@ -314,6 +327,9 @@ void RandomUser::tick()
     m_pending = true;
     QTimer::singleShot(0, this, [this, a = std::move(a)] {
         m_pending = false;
+        // The action may come due inside a command's own wait under the hourglass.
+        if (m_platform.pointerBusy())
+            return;
         perform(a);
     });
 }
