@@ -270,13 +270,7 @@ RandomUserOutcome RandomUser::run()
     QEventLoop loop;
     connect(this, &QObject::objectNameChanged, &loop, &QEventLoop::quit);
     m_ticker.start();
-    try {
-        loop.exec();
-    } catch (const std::exception &e) {
-        fault(QStringLiteral("an exception left the event loop: %1").arg(QString::fromLocal8Bit(e.what())));
-    } catch (...) {
-        fault(QStringLiteral("an exception of unknown type left the event loop"));
-    }
+    runCatching([&loop] { loop.exec(); }, QStringLiteral("an exception left the event loop"));
     m_ticker.stop();
     if (m_depth == 0)
         checkInvariants();
@@ -375,13 +369,7 @@ void RandomUser::perform(Action action)
     m_lastProgressMs = m_clock.elapsed();
     ++m_depth;
     m_loopLevels << QThread::currentThread()->loopLevel();
-    try {
-        action.perform();
-    } catch (const std::exception &e) {
-        fault(QStringLiteral("uncaught exception: %1").arg(QString::fromLocal8Bit(e.what())));
-    } catch (...) {
-        fault(QStringLiteral("uncaught exception of unknown type"));
-    }
+    runCatching(action.perform, QStringLiteral("uncaught exception"));
     m_loopLevels.removeLast();
     --m_depth;
     afterAction();
@@ -396,6 +384,17 @@ void RandomUser::afterAction()
                       .arg(modal->objectName()));
     }
     m_platform.takeMessages();
+}
+
+void RandomUser::runCatching(const std::function<void()> &work, const QString &what)
+{
+    try {
+        work();
+    } catch (const std::exception &e) {
+        fault(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(e.what())));
+    } catch (...) {
+        fault(what + QStringLiteral(" of unknown type"));
+    }
 }
 
 void RandomUser::fault(const QString &what)

@@ -71,6 +71,8 @@ private:
     void afterAction();
     void finishStep();
     void fault(const QString &what);
+    // Runs the work; an exception that escapes it is a fault, told with its text.
+    void runCatching(const std::function<void()> &work, const QString &what);
 
     // The kinds of action.
     Action startProgram();
