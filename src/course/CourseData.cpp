@@ -8,22 +8,15 @@ namespace quillon {
 
 QStringList CourseNames(Connection &c)
 {
-    QStringList names;
-    Statement s = c.run(QStringLiteral("SELECT DISTINCT CourseName FROM CourseLog ORDER BY CourseName"));
-    while (s.next())
-        names << s.value(0).toString();
-    return names;
+    return FirstColumn(c, QStringLiteral("SELECT DISTINCT CourseName FROM CourseLog ORDER BY CourseName"));
 }
 
 QStringList TeesOf(Connection &c, const QString &course)
 {
-    QStringList tees;
     // In the order they were entered, so that a course's first tees are the first it was given.
-    Statement s = c.run(
-        QStringLiteral("SELECT Tees FROM CourseLog WHERE CourseName = ? GROUP BY Tees ORDER BY MIN(rowid)"), {course});
-    while (s.next())
-        tees << s.value(0).toString();
-    return tees;
+    return FirstColumn(
+        c, QStringLiteral("SELECT Tees FROM CourseLog WHERE CourseName = ? GROUP BY Tees ORDER BY MIN(rowid)"),
+        {course});
 }
 
 bool TeesExist(Connection &c, const QString &course, const QString &tees)

@@ -53,11 +53,7 @@ QString sumText(Int16 sum)
 
 QStringList CoursesWithHoles(Connection &c)
 {
-    QStringList names;
-    Statement s = c.run(QStringLiteral("SELECT DISTINCT CourseName FROM CourseDetails ORDER BY CourseName"));
-    while (s.next())
-        names << s.value(0).toString();
-    return names;
+    return FirstColumn(c, QStringLiteral("SELECT DISTINCT CourseName FROM CourseDetails ORDER BY CourseName"));
 }
 
 bool TeesHaveHoles(Connection &c, const QString &course, const QString &tees)

@@ -309,6 +309,15 @@ QVariant Scalar(Connection &connection, const QString &sql, const Params &params
     return q.next() ? q.value(0) : QVariant();
 }
 
+QStringList FirstColumn(Connection &connection, const QString &sql, const Params &params)
+{
+    QStringList out;
+    Statement q = connection.run(sql, params);
+    while (q.next())
+        out << q.value(0).toString();
+    return out;
+}
+
 qint64 LastInsertId(Connection &connection)
 {
     return Scalar(connection, QStringLiteral("SELECT last_insert_rowid()")).toLongLong();

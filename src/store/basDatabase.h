@@ -113,6 +113,8 @@ QuillonError LastDatabaseError();
 Recordset Query(Connection &connection, const QString &sql, const Params &params = {});
 int Exec(Connection &connection, const QString &sql, const Params &params = {});
 QVariant Scalar(Connection &connection, const QString &sql, const Params &params = {});
+// The first column of every row, as text, in the statement's order.
+QStringList FirstColumn(Connection &connection, const QString &sql, const Params &params = {});
 // ScoreIndex and other auto-numbers given by the last insert.
 qint64 LastInsertId(Connection &connection);
 

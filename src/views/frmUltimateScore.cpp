@@ -24,30 +24,22 @@ const LogGlobals &golfer()
     return basLogGlobals();
 }
 
-QStringList firstColumn(const QString &sql, const Params &params)
-{
-    QStringList out;
-    Statement s = db().run(sql, params);
-    while (s.next())
-        out << s.value(0).toString();
-    return out;
-}
-
 // The courses of the golfer's rounds entered hole by hole, each once: a course played from two
 // sets of tees would only repeat its name, the tees being chosen in their own list.
 QStringList CoursesPlayed()
 {
-    return firstColumn(QStringLiteral("SELECT DISTINCT CourseName FROM ScoreDetails WHERE LastName = ? AND "
+    return FirstColumn(db(),
+                       QStringLiteral("SELECT DISTINCT CourseName FROM ScoreDetails WHERE LastName = ? AND "
                                       "FirstName = ? ORDER BY CourseName ASC"),
                        {golfer().gLastName, golfer().gFirstName});
 }
 
 QStringList TeesPlayed(const QString &course)
 {
-    return firstColumn(
-        QStringLiteral("SELECT DISTINCT Tees FROM ScoreDetails WHERE LastName = ? AND FirstName = ? "
-                       "AND CourseName = ? ORDER BY Tees ASC"),
-        {golfer().gLastName, golfer().gFirstName, course});
+    return FirstColumn(db(),
+                       QStringLiteral("SELECT DISTINCT Tees FROM ScoreDetails WHERE LastName = ? AND FirstName = ? "
+                                      "AND CourseName = ? ORDER BY Tees ASC"),
+                       {golfer().gLastName, golfer().gFirstName, course});
 }
 
 bool HasDetails(const QString &course, const QString &tees)
